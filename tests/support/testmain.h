@@ -1,0 +1,45 @@
+#pragma once
+
+#include <QDir>
+#include <QStandardPaths>
+#include <QTemporaryDir>
+#include <QTest>
+
+namespace TestSupport {
+
+/// Gives the process home, runtime, data and config directories of its own, and no display.
+inline void isolateProcess(const QTemporaryDir &home)
+{
+    const auto directory = [&home](const char *variable, const QString &name) {
+        QDir(home.path()).mkpath(name);
+        const QString path = home.filePath(name);
+        QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ExeOwner);
+        qputenv(variable, QFile::encodeName(path));
+    };
+    directory("HOME", QStringLiteral("home"));
+    directory("XDG_RUNTIME_DIR", QStringLiteral("run"));
+    directory("XDG_DATA_HOME", QStringLiteral("data"));
+    directory("XDG_CONFIG_HOME", QStringLiteral("config"));
+    directory("XDG_CACHE_HOME", QStringLiteral("cache"));
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+}
+
+template <typename Application, typename Test> int runTest(int argc, char **argv)
+{
+    const QTemporaryDir home;
+    if (!home.isValid())
+        return 1;
+    isolateProcess(home);
+    Application application(argc, argv);
+    Test test;
+    return QTest::qExec(&test, argc, argv);
+}
+
+} // namespace TestSupport
+
+/// main() of a test program, with QCoreApplication or QApplication.
+#define ORVEL_TEST_MAIN(Application, Test)                                                                             \
+    int main(int argc, char **argv)                                                                                    \
+    {                                                                                                                  \
+        return TestSupport::runTest<Application, Test>(argc, argv);                                                    \
+    }
