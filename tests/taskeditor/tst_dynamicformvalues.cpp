@@ -1,0 +1,253 @@
+#include "formfields.h"
+#include "programparameters.h"
+#include "testmain.h"
+
+#include <QApplication>
+#include <QCheckBox>
+#include <QComboBox>
+#include <QDoubleSpinBox>
+#include <QLineEdit>
+#include <QSpinBox>
+#include <QTest>
+
+using namespace Qt::StringLiterals;
+using namespace Scheduler;
+using namespace FormFields;
+
+namespace {
+
+const QString typeId = u"task_type.audio_record"_s;
+
+const char *const intField = R"({"key": "k", "type": "int", "min": 1, "max": 60, "defaultValue": "30"})";
+const char *const doubleField = R"({"key": "k", "type": "double", "min": -5, "max": 5, "defaultValue": "1.5"})";
+const char *const boolField = R"({"key": "k", "type": "bool", "defaultValue": "true"})";
+const char *const selectField =
+    R"({"key": "k", "type": "select", "options": ["MP3", "OGG", "WAV"], "defaultValue": "OGG"})";
+const char *const textField = R"({"key": "k", "type": "text", "defaultValue": "definition"})";
+
+class Form : public MCsDynamicFormWidget {
+public:
+    explicit Form(const QList<TaskFieldInfo> &fields, const QString &parameters = {})
+        : MCsDynamicFormWidget(nullptr)
+    {
+        setTaskTypes({taskType(typeId, fields)});
+        isBuilt = buildForTaskType(typeId, parameters);
+    }
+
+    bool isBuilt = false;
+};
+
+QString jsonText(const QJsonObject &values)
+{
+    return QString::fromUtf8(QJsonDocument(values).toJson(QJsonDocument::Compact));
+}
+
+} // namespace
+
+class TestDynamicFormValues : public QObject {
+    Q_OBJECT
+
+private slots:
+    void valuesHaveTheTypesOfTheirFields();
+    void numbersStayNumbersWhateverTheirSource();
+    void textIsTrimmed();
+    void selectWithoutOptionsGivesAnEmptyText();
+    void shownValuesAreCollected();
+    void storedValueIsApplied_data();
+    void storedValueIsApplied();
+    void unknownKeysAreIgnored();
+    void excludedKeysKeepTheirValue();
+    void valuesSurviveTheRoundTrip();
+    void precedenceOfTheSources_data();
+    void precedenceOfTheSources();
+    void storedTaskSurvivesAChangeOfTheDefinition();
+};
+
+void TestDynamicFormValues::valuesHaveTheTypesOfTheirFields()
+{
+    const Form form({field(R"({"key": "i", "type": "int", "defaultValue": "30"})"),
+                     field(R"({"key": "d", "type": "double", "defaultValue": "1.5"})"),
+                     field(R"({"key": "b", "type": "bool", "defaultValue": "1"})"),
+                     field(R"({"key": "s", "type": "select", "options": ["1", "2"], "defaultValue": "2"})"),
+                     field(R"({"key": "t", "type": "", "defaultValue": "44100"})")});
+    QCOMPARE(jsonText(form.collectValues()), uR"({"b":true,"d":1.5,"i":30,"s":"2","t":"44100"})"_s);
+}
+
+void TestDynamicFormValues::numbersStayNumbersWhateverTheirSource()
+{
+    for (const QString &parameters : {u"{\"k\": \"12\"}"_s, u"{\"k\": 12}"_s, u"{\"k\": \"many\"}"_s,
+                                      u"{\"k\": null}"_s, u"{\"k\": \"nan\"}"_s, u"{\"k\": \"inf\"}"_s}) {
+        QVERIFY(Form({field(intField)}, parameters).collectValues().value("k"_L1).isDouble());
+        const QJsonObject values = Form({field(doubleField)}, parameters).collectValues();
+        // Neither infinite nor undefined numbers survive in JSON.
+        QVERIFY(QJsonDocument::fromJson(QJsonDocument(values).toJson()).object().value("k"_L1).isDouble());
+    }
+}
+
+void TestDynamicFormValues::textIsTrimmed()
+{
+    const Form form({field(textField)});
+    widgetAt<QLineEdit>(form, 0)->setText(u" \t two words  "_s);
+    QCOMPARE(form.collectValues().value("k"_L1).toString(), u"two words"_s);
+    widgetAt<QLineEdit>(form, 0)->setText(u"   "_s);
+    QCOMPARE(jsonText(form.collectValues()), uR"({"k":""})"_s);
+}
+
+void TestDynamicFormValues::selectWithoutOptionsGivesAnEmptyText()
+{
+    const Form form({field(R"({"key": "k", "type": "select"})")});
+    QCOMPARE(jsonText(form.collectValues()), uR"({"k":""})"_s);
+}
+
+void TestDynamicFormValues::shownValuesAreCollected()
+{
+    const Form form({field(intField), field(R"({"key": "b", "type": "bool"})"),
+                     field(R"({"key": "s", "type": "select", "options": ["x", " y "]})")});
+    widgetAt<QSpinBox>(form, 0)->setValue(59);
+    widgetAt<QCheckBox>(form, 1)->setChecked(true);
+    widgetAt<QComboBox>(form, 2)->setCurrentIndex(1);
+    QCOMPARE(jsonText(form.collectValues()), uR"({"b":true,"k":59,"s":" y "})"_s);
+}
+
+void TestDynamicFormValues::storedValueIsApplied_data()
+{
+    QTest::addColumn<QByteArray>("info");
+    QTest::addColumn<QByteArray>("stored");
+    QTest::addColumn<QByteArray>("shown");
+    const auto row = [](const char *name, const char *info, const char *stored, const char *shown) {
+        QTest::newRow(name) << QByteArray(info) << QByteArray(stored) << QByteArray(shown);
+    };
+    row("int", intField, "45", "45");
+    row("int above the range", intField, "1000", "60");
+    row("int below the range", intField, "-3", "1");
+    row("int with a fraction", intField, "4.5", "1");
+    row("int from text", intField, "\"45\"", "1");
+    row("int from null", intField, "null", "1");
+    row("int from a boolean", intField, "true", "1");
+    row("double", doubleField, "2.25", "2.25");
+    row("double from a whole number", doubleField, "2", "2");
+    row("double rounded", doubleField, "1.239", "1.24");
+    row("double above the range", doubleField, "1e9", "5");
+    row("double from text", doubleField, "\"2\"", "0");
+    row("bool off", boolField, "false", "false");
+    row("bool on", boolField, "true", "true");
+    row("bool from a number", boolField, "1", "false");
+    row("bool from text", boolField, "\"true\"", "false");
+    row("select", selectField, "\"WAV\"", "\"WAV\"");
+    row("select of another case", selectField, "\"wav\"", "\"OGG\"");
+    row("select of a gone option", selectField, "\"FLAC\"", "\"OGG\"");
+    row("select from a number", selectField, "0", "\"OGG\"");
+    row("select from null", selectField, "null", "\"OGG\"");
+    row("text", textField, "\"stored\"", "\"stored\"");
+    row("text empty", textField, "\"\"", "\"\"");
+    row("text from a number", textField, "5", "\"\"");
+    row("text from an object", textField, "{\"a\": 1}", "\"\"");
+}
+
+void TestDynamicFormValues::storedValueIsApplied()
+{
+    QFETCH(const QByteArray, info);
+    QFETCH(const QByteArray, stored);
+    QFETCH(const QByteArray, shown);
+    Form form({field(info.constData())});
+    form.applyValues(object("{\"k\": " + stored + "}"), {});
+    QCOMPARE(form.collectValues(), object("{\"k\": " + shown + "}"));
+}
+
+void TestDynamicFormValues::unknownKeysAreIgnored()
+{
+    Form form({field(intField)});
+    form.applyValues(object(R"({"K": 5, "other": "x", "": 7})"), {});
+    QCOMPARE(jsonText(form.collectValues()), uR"({"k":30})"_s);
+    form.applyValues({}, {});
+    QCOMPARE(jsonText(form.collectValues()), uR"({"k":30})"_s);
+}
+
+void TestDynamicFormValues::excludedKeysKeepTheirValue()
+{
+    Form form({field(intField), field(R"({"key": "t"})")});
+    const QJsonObject values = object(R"({"k": 5, "t": "stored"})");
+    form.applyValues(values, {u"k"_s, u"t"_s, u"other"_s});
+    QCOMPARE(jsonText(form.collectValues()), uR"({"k":30,"t":""})"_s);
+    form.applyValues(values, {u"K"_s, u"t"_s});
+    QCOMPARE(jsonText(form.collectValues()), uR"({"k":5,"t":""})"_s);
+}
+
+void TestDynamicFormValues::valuesSurviveTheRoundTrip()
+{
+    const QList<TaskFieldInfo> fields{
+        field(R"({"key": "i", "type": "int", "min": -100})"), field(R"({"key": "d", "type": "double"})"),
+        field(R"({"key": "b", "type": "bool"})"), field(R"({"key": "s", "type": "select", "options": ["x", "y"]})"),
+        field(R"({"key": "t"})")};
+    const QJsonObject values = object(R"({"i": -7, "d": 0.01, "b": true, "s": "y", "t": "50 % \u00e4 \"<>\""})");
+    Form first(fields);
+    first.applyValues(values, {});
+    QCOMPARE(first.collectValues(), values);
+    Form second(fields);
+    second.applyValues(first.collectValues(), {});
+    QCOMPARE(second.collectValues(), values);
+}
+
+void TestDynamicFormValues::precedenceOfTheSources_data()
+{
+    QTest::addColumn<QByteArray>("info");
+    QTest::addColumn<QString>("parameters");
+    QTest::addColumn<QByteArray>("lastUsed");
+    QTest::addColumn<QByteArray>("storedTask");
+    QTest::addColumn<QByteArray>("created"); ///< what a new task shows
+    QTest::addColumn<QByteArray>("edited");  ///< what the stored task shows
+    const auto row = [](const char *name, const char *info, const QString &parameters, const char *lastUsed,
+                        const char *storedTask, const char *created, const char *edited) {
+        QTest::newRow(name) << QByteArray(info) << parameters << QByteArray(lastUsed) << QByteArray(storedTask)
+                            << QByteArray(created) << QByteArray(edited);
+    };
+    row("definition alone", intField, {}, "{}", "{}", "30", "30");
+    row("file over definition", intField, u"{\"k\": 12}"_s, "{}", "{}", "12", "12");
+    row("last used over definition", intField, {}, R"({"k": 7})", "{}", "7", "30");
+    row("file over last used", intField, u"{\"k\": 12}"_s, R"({"k": 7})", "{}", "12", "12");
+    row("stored over definition", intField, {}, "{}", R"({"k": 8})", "30", "8");
+    row("stored over file and last used", intField, u"{\"k\": 12}"_s, R"({"k": 7})", R"({"k": 8})", "12", "8");
+    row("file with other keys", intField, u"{\"other\": 12}"_s, R"({"k": 7})", "{}", "7", "30");
+    row("file names the key with options only", selectField, u"{\"k\": {\"options\": [\"WAV\", \"OGG\"]}}"_s,
+        R"({"k": "WAV"})", R"({"k": "WAV"})", "\"OGG\"", "\"WAV\"");
+    row("file names the key with nothing of use", textField, u"{\"k\": {}}"_s, R"({"k": "last"})", "{}",
+        "\"definition\"", "\"definition\"");
+    row("file empties the default", textField, u"{\"k\": null}"_s, R"({"k": "last"})", "{}", "\"\"", "\"\"");
+    row("malformed file excludes nothing", textField, u"{\"k\": "_s, R"({"k": "last"})", "{}", "\"last\"",
+        "\"definition\"");
+    row("empty options keep the definition's", selectField, u"{\"k\": {\"options\": []}}"_s, "{}", R"({"k": "MP3"})",
+        "\"OGG\"", "\"MP3\"");
+    row("last used option is gone", selectField, {}, R"({"k": "FLAC"})", R"({"k": "FLAC"})", "\"OGG\"", "\"OGG\"");
+    row("bool", boolField, u"{\"k\": false}"_s, R"({"k": true})", R"({"k": true})", "false", "true");
+    row("double", doubleField, {}, R"({"k": 2.5})", R"({"k": -1})", "2.5", "-1");
+}
+
+void TestDynamicFormValues::precedenceOfTheSources()
+{
+    QFETCH(const QByteArray, info);
+    QFETCH(const QString, parameters);
+    QFETCH(const QByteArray, lastUsed);
+    QFETCH(const QByteArray, storedTask);
+    QFETCH(const QByteArray, created);
+    QFETCH(const QByteArray, edited);
+    Form newTask({field(info.constData())}, parameters);
+    newTask.applyValues(object(lastUsed.constData()), parseProgramParameters(parameters).keys());
+    QCOMPARE(newTask.collectValues(), object("{\"k\": " + created + "}"));
+    Form oldTask({field(info.constData())}, parameters);
+    oldTask.applyValues(object(storedTask.constData()), {});
+    QCOMPARE(oldTask.collectValues(), object("{\"k\": " + edited + "}"));
+}
+
+void TestDynamicFormValues::storedTaskSurvivesAChangeOfTheDefinition()
+{
+    const QJsonObject stored = object(R"({"kept": 7, "gone": "x", "format": "FLAC"})");
+    Form form({field(R"({"key": "kept", "type": "int", "defaultValue": "1"})"),
+               field(R"({"key": "new", "type": "int", "defaultValue": "2"})"),
+               field(R"({"key": "format", "type": "select", "options": ["MP3", "OGG"]})")},
+              uR"({"kept": 9, "format": "OGG"})"_s);
+    form.applyValues(stored, {});
+    QCOMPARE(jsonText(form.collectValues()), uR"({"format":"OGG","kept":7,"new":2})"_s);
+}
+
+ORVEL_TEST_MAIN(QApplication, TestDynamicFormValues)
+#include "tst_dynamicformvalues.moc"
