@@ -1,0 +1,589 @@
+<?xml version="1.0" encoding="utf-8"?>
+<!DOCTYPE TS>
+<TS version="2.1" language="de">
+<context>
+    <name>MCsMainWindow</name>
+    <message>
+        <source>Orvel Scheduler Manager</source>
+        <translation>Orvel Scheduler Manager</translation>
+    </message>
+    <message>
+        <source>Note: To run the program, sign in to your Windows account and make sure your PC is set not to lock automatically.</source>
+        <translation>Hinweis: Zum Ausführen des Programms müssen Sie bei Windows angemeldet sein, und der PC darf nicht automatisch gesperrt werden.</translation>
+    </message>
+    <message>
+        <source>Groups</source>
+        <translation>Gruppen</translation>
+    </message>
+    <message>
+        <source>Task: </source>
+        <translation>Aufgabe: </translation>
+    </message>
+    <message>
+        <source>Filter:</source>
+        <translation>Filter:</translation>
+    </message>
+    <message>
+        <source>Tasks: 0</source>
+        <translation>Aufgaben: 0</translation>
+    </message>
+    <message>
+        <source>Name</source>
+        <translation>Name</translation>
+    </message>
+    <message>
+        <source>Type</source>
+        <translation>Typ</translation>
+    </message>
+    <message>
+        <source>Status</source>
+        <translation>Status</translation>
+    </message>
+    <message>
+        <source>Next Run</source>
+        <translation>Nächster Lauf</translation>
+    </message>
+    <message>
+        <source>Last Run Status</source>
+        <translation>Letzter Lauf</translation>
+    </message>
+    <message>
+        <source>Activity Log:</source>
+        <translation>Aktivitätsprotokoll:</translation>
+    </message>
+</context>
+<context>
+    <name>QObject</name>
+    <message>
+        <source>Error</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>task type</source>
+        <translation>Aufgabentyp</translation>
+    </message>
+    <message>
+        <source>language</source>
+        <translation>Sprache</translation>
+    </message>
+    <message>
+        <source>program name</source>
+        <translation>Programmname</translation>
+    </message>
+    <message>
+        <source>program path</source>
+        <translation>Programmpfad</translation>
+    </message>
+    <message>
+        <source>Program parameter JSON file not found!</source>
+        <translation>Die JSON-Datei mit den Programmparametern wurde nicht gefunden!</translation>
+    </message>
+    <message>
+        <source>Failed to open program parameter JSON file!</source>
+        <translation>Die JSON-Datei mit den Programmparametern konnte nicht geöffnet werden!</translation>
+    </message>
+    <message>
+        <source>Program parameter JSON file is empty!</source>
+        <translation>Die JSON-Datei mit den Programmparametern ist leer!</translation>
+    </message>
+    <message>
+        <source>Missing required arguments: %1</source>
+        <translation>Erforderliche Argumente fehlen: %1</translation>
+    </message>
+    <message>
+        <source>task type error!</source>
+        <translation>Ungültiger Aufgabentyp!</translation>
+    </message>
+    <message>
+        <source>All Types</source>
+        <translation>Alle Typen</translation>
+    </message>
+</context>
+<context>
+    <name>Scheduler::MCsDynamicFormWidget</name>
+    <message>
+        <source>Audio Source</source>
+        <translation>Audioquelle</translation>
+    </message>
+    <message>
+        <source>Audio Bitrate</source>
+        <translation>Audio-Bitrate</translation>
+    </message>
+    <message>
+        <source>Audio Sample Rate</source>
+        <translation>Audio-Abtastrate</translation>
+    </message>
+    <message>
+        <source>Channels</source>
+        <translation>Kanäle</translation>
+    </message>
+    <message>
+        <source>Enable VBR if supported</source>
+        <translation>VBR aktivieren, falls unterstützt</translation>
+    </message>
+    <message>
+        <source>Output format</source>
+        <translation>Ausgabeformat</translation>
+    </message>
+    <message>
+        <source>⚙️ Program Parameters</source>
+        <translation>⚙️ Programmparameter</translation>
+    </message>
+</context>
+<context>
+    <name>Scheduler::MCsMainWindow</name>
+    <message>
+        <source>Task &apos;%1&apos; execution started</source>
+        <translation>Ausführung der Aufgabe „%1“ gestartet</translation>
+    </message>
+    <message>
+        <source> (run: %1)</source>
+        <translation> (Lauf: %1)</translation>
+    </message>
+    <message>
+        <source>Task &apos;%1&apos; completed successfully</source>
+        <translation>Aufgabe „%1“ erfolgreich abgeschlossen</translation>
+    </message>
+    <message>
+        <source> (exit: %1)</source>
+        <translation> (Exitcode: %1)</translation>
+    </message>
+    <message>
+        <source>Task &apos;%1&apos; execution failed</source>
+        <translation>Ausführung der Aufgabe „%1“ fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source> - %1</source>
+        <translation> - %1</translation>
+    </message>
+    <message>
+        <source>Task &apos;%1&apos; execution timed out</source>
+        <translation>Timeout bei der Ausführung der Aufgabe „%1“</translation>
+    </message>
+    <message>
+        <source>Task &apos;%1&apos; execution cancelled</source>
+        <translation>Ausführung der Aufgabe „%1“ abgebrochen</translation>
+    </message>
+    <message>
+        <source>Group &apos;%1&apos; created</source>
+        <translation>Gruppe „%1“ erstellt</translation>
+    </message>
+    <message>
+        <source>Group &apos;%1&apos; updated</source>
+        <translation>Gruppe „%1“ geändert</translation>
+    </message>
+    <message>
+        <source>Group &apos;%1&apos; deleted</source>
+        <translation>Gruppe „%1“ gelöscht</translation>
+    </message>
+    <message>
+        <source>Task &apos;%1&apos; created</source>
+        <translation>Aufgabe „%1“ erstellt</translation>
+    </message>
+    <message>
+        <source> (schedule: %1)</source>
+        <translation> (Zeitplan: %1)</translation>
+    </message>
+    <message>
+        <source>Task &apos;%1&apos; updated</source>
+        <translation>Aufgabe „%1“ geändert</translation>
+    </message>
+    <message>
+        <source>Task &apos;%1&apos; deleted</source>
+        <translation>Aufgabe „%1“ gelöscht</translation>
+    </message>
+    <message>
+        <source>Task &apos;%1&apos; enabled</source>
+        <translation>Aufgabe „%1“ aktiviert</translation>
+    </message>
+    <message>
+        <source>Task &apos;%1&apos; disabled</source>
+        <translation>Aufgabe „%1“ deaktiviert</translation>
+    </message>
+    <message>
+        <source>%1 on &apos;%2&apos;</source>
+        <translation>%1 für „%2“</translation>
+    </message>
+    <message>
+        <source>Disconnected</source>
+        <translation>Getrennt</translation>
+    </message>
+    <message>
+        <source>Enable All Tasks</source>
+        <translation>Alle Aufgaben aktivieren</translation>
+    </message>
+    <message>
+        <source>Disable All Tasks</source>
+        <translation>Alle Aufgaben deaktivieren</translation>
+    </message>
+    <message>
+        <source>Trigger All Tasks</source>
+        <translation>Alle Aufgaben starten</translation>
+    </message>
+    <message>
+        <source>Delete All Tasks</source>
+        <translation>Alle Aufgaben löschen</translation>
+    </message>
+    <message>
+        <source>Task Runs</source>
+        <translation>Aufgabenläufe</translation>
+    </message>
+    <message>
+        <source>Task runs view not yet implemented.</source>
+        <translation>Die Ansicht der Aufgabenläufe ist noch nicht verfügbar.</translation>
+    </message>
+    <message>
+        <source>Task Logs</source>
+        <translation>Aufgabenprotokolle</translation>
+    </message>
+    <message>
+        <source>Task logs view not yet implemented.</source>
+        <translation>Die Ansicht der Aufgabenprotokolle ist noch nicht verfügbar.</translation>
+    </message>
+    <message>
+        <source>Export Logs</source>
+        <translation>Protokolle exportieren</translation>
+    </message>
+    <message>
+        <source>Log export not yet implemented.</source>
+        <translation>Der Export von Protokollen ist noch nicht verfügbar.</translation>
+    </message>
+    <message>
+        <source>Not Connected</source>
+        <translation>Nicht verbunden</translation>
+    </message>
+    <message>
+        <source>Cannot refresh audit log because not connected to the service.</source>
+        <translation>Das Aktivitätsprotokoll kann nicht aktualisiert werden, da keine Verbindung zum Dienst besteht.</translation>
+    </message>
+    <message>
+        <source>No Selection</source>
+        <translation>Keine Auswahl</translation>
+    </message>
+    <message>
+        <source>Please select a task to delete.</source>
+        <translation>Bitte wählen Sie die Aufgabe aus, die gelöscht werden soll.</translation>
+    </message>
+    <message>
+        <source>Confirm Delete</source>
+        <translation>Löschen bestätigen</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to delete task &apos;%1&apos;?</source>
+        <translation>Möchten Sie die Aufgabe „%1“ wirklich löschen?</translation>
+    </message>
+    <message>
+        <source>Delete Error</source>
+        <translation>Fehler beim Löschen</translation>
+    </message>
+    <message>
+        <source>Failed to delete task.</source>
+        <translation>Die Aufgabe konnte nicht gelöscht werden.</translation>
+    </message>
+    <message>
+        <source>Toggle Error</source>
+        <translation>Fehler beim Umschalten</translation>
+    </message>
+    <message>
+        <source>Failed to toggle task status.</source>
+        <translation>Der Status der Aufgabe konnte nicht umgeschaltet werden.</translation>
+    </message>
+    <message>
+        <source>Please select a task to trigger.</source>
+        <translation>Bitte wählen Sie die Aufgabe aus, die gestartet werden soll.</translation>
+    </message>
+    <message>
+        <source>Trigger Error</source>
+        <translation>Fehler beim Starten</translation>
+    </message>
+    <message>
+        <source>Failed to trigger task.</source>
+        <translation>Die Aufgabe konnte nicht gestartet werden.</translation>
+    </message>
+    <message>
+        <source>Please select a group to delete.</source>
+        <translation>Bitte wählen Sie die Gruppe aus, die gelöscht werden soll.</translation>
+    </message>
+    <message>
+        <source>Cannot Delete</source>
+        <translation>Löschen nicht möglich</translation>
+    </message>
+    <message>
+        <source>The &apos;Ungrouped&apos; group cannot be deleted.</source>
+        <translation>Die Gruppe „Nicht gruppiert“ kann nicht gelöscht werden.</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to delete group &apos;%1&apos;?
+Tasks in this group will be moved to &apos;Ungrouped&apos;.</source>
+        <translation>Möchten Sie die Gruppe „%1“ wirklich löschen?
+Die Aufgaben dieser Gruppe werden nach „Nicht gruppiert“ verschoben.</translation>
+    </message>
+    <message>
+        <source>Failed to delete group.</source>
+        <translation>Die Gruppe konnte nicht gelöscht werden.</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Failed to enable all tasks in group.</source>
+        <translation>Die Aufgaben der Gruppe konnten nicht aktiviert werden.</translation>
+    </message>
+    <message>
+        <source>Failed to disable all tasks in group.</source>
+        <translation>Die Aufgaben der Gruppe konnten nicht deaktiviert werden.</translation>
+    </message>
+    <message>
+        <source>Failed to trigger all tasks in group.</source>
+        <translation>Die Aufgaben der Gruppe konnten nicht gestartet werden.</translation>
+    </message>
+    <message>
+        <source>Are you sure you want to delete all tasks in this group?</source>
+        <translation>Möchten Sie wirklich alle Aufgaben dieser Gruppe löschen?</translation>
+    </message>
+    <message>
+        <source>Failed to delete all tasks in group.</source>
+        <translation>Die Aufgaben der Gruppe konnten nicht gelöscht werden.</translation>
+    </message>
+    <message>
+        <source>Connecting to scheduler service...</source>
+        <translation>Verbindung zum Planungsdienst wird hergestellt...</translation>
+    </message>
+    <message>
+        <source>Connecting to scheduler service (attempt %1 of %2)...</source>
+        <translation>Verbindung zum Planungsdienst wird hergestellt (Versuch %1 von %2)...</translation>
+    </message>
+    <message>
+        <source>Unable to connect to the scheduler service because multiple manager instances are running. Please close the other scheduler managers first.</source>
+        <translation>Es kann keine Verbindung zum Planungsdienst hergestellt werden, da mehrere Instanzen des Scheduler-Managers ausgeführt werden. Bitte schließen Sie zuerst die anderen Instanzen.</translation>
+    </message>
+    <message>
+        <source>connected to deamon failed! (attempt %1 of %2) reason = </source>
+        <translation>Verbindung zum Dienst fehlgeschlagen! (Versuch %1 von %2) Grund = </translation>
+    </message>
+    <message>
+        <source>[WARN] Initial connection failed, attempting to start service...</source>
+        <translation>[WARN] Erste Verbindungsversuche fehlgeschlagen, der Dienst wird gestartet...</translation>
+    </message>
+    <message>
+        <source>Scheduler service is installed but failed to start.
+
+Please check system logs or reinstall the service.</source>
+        <translation>Der Planungsdienst ist installiert, konnte aber nicht gestartet werden.
+
+Bitte prüfen Sie die Systemprotokolle oder installieren Sie den Dienst neu.</translation>
+    </message>
+    <message>
+        <source>Scheduler service is not installed.
+
+Please reinstall the service and restart the application.</source>
+        <translation>Der Planungsdienst ist nicht installiert.
+
+Bitte installieren Sie den Dienst neu und starten Sie die Anwendung erneut.</translation>
+    </message>
+    <message>
+        <source>Waiting for service to start...</source>
+        <translation>Warten auf den Start des Dienstes...</translation>
+    </message>
+    <message>
+        <source>Reconnecting to scheduler service (attempt %1 of %2)...</source>
+        <translation>Erneuter Verbindungsaufbau zum Planungsdienst (Versuch %1 von %2)...</translation>
+    </message>
+    <message>
+        <source>Unable to connect to scheduler service after multiple attempts.
+
+Please ensure the service is running correctly and try again.</source>
+        <translation>Auch nach mehreren Versuchen konnte keine Verbindung zum Planungsdienst hergestellt werden.
+
+Bitte stellen Sie sicher, dass der Dienst ordnungsgemäß ausgeführt wird, und versuchen Sie es erneut.</translation>
+    </message>
+    <message>
+        <source>No Tasks Found</source>
+        <translation>Keine Aufgaben gefunden</translation>
+    </message>
+    <message>
+        <source>No scheduled tasks were found.
+
+Would you like to create one now?</source>
+        <translation>Es wurden keine geplanten Aufgaben gefunden.
+
+Möchten Sie jetzt eine erstellen?</translation>
+    </message>
+    <message>
+        <source>[WARN] Connection lost, attempting to reconnect...</source>
+        <translation>[WARN] Verbindung unterbrochen, sie wird wiederhergestellt...</translation>
+    </message>
+    <message>
+        <source>[INFO] Reconnection attempt %1 of %2...</source>
+        <translation>[INFO] Wiederverbindungsversuch %1 von %2...</translation>
+    </message>
+    <message>
+        <source>Reconnecting (%1/%2)...</source>
+        <translation>Verbindung wird wiederhergestellt (%1/%2)...</translation>
+    </message>
+    <message>
+        <source>Connection lost. Reconnecting...
+Attempt %1 of %2</source>
+        <translation>Verbindung unterbrochen. Sie wird wiederhergestellt...
+Versuch %1 von %2</translation>
+    </message>
+    <message>
+        <source>Connection to scheduler service was lost and could not be restored.
+
+The application will now close.</source>
+        <translation>Die Verbindung zum Planungsdienst wurde unterbrochen und konnte nicht wiederhergestellt werden.
+
+Die Anwendung wird jetzt beendet.</translation>
+    </message>
+    <message>
+        <source>Service Error</source>
+        <translation>Dienstfehler</translation>
+    </message>
+    <message>
+        <source>Connecting</source>
+        <translation>Verbinden</translation>
+    </message>
+    <message>
+        <source>Cancel</source>
+        <translation>Abbrechen</translation>
+    </message>
+    <message>
+        <source>Connection Lost</source>
+        <translation>Verbindung unterbrochen</translation>
+    </message>
+    <message>
+        <source>Connection lost. Reconnecting to scheduler service...</source>
+        <translation>Verbindung zum Planungsdienst unterbrochen. Sie wird wiederhergestellt...</translation>
+    </message>
+    <message>
+        <source>Connected</source>
+        <translation>Verbunden</translation>
+    </message>
+    <message>
+        <source>Failed to move task to group &apos;%1&apos;.</source>
+        <translation>Die Aufgabe konnte nicht in die Gruppe „%1“ verschoben werden.</translation>
+    </message>
+    <message>
+        <source>Failed to move %1 tasks to group &apos;%2&apos;.</source>
+        <translation>%1 Aufgaben konnten nicht in die Gruppe „%2“ verschoben werden.</translation>
+    </message>
+    <message>
+        <source>Failed to move task to group.</source>
+        <translation>Die Aufgabe konnte nicht in die Gruppe verschoben werden.</translation>
+    </message>
+    <message>
+        <source>%1 (%2)</source>
+        <translation>%1 (%2)</translation>
+    </message>
+    <message>
+        <source>Tasks: %1</source>
+        <translation>Aufgaben: %1</translation>
+    </message>
+    <message>
+        <source> (in %1)</source>
+        <translation> (in %1)</translation>
+    </message>
+    <message>
+        <source>Success</source>
+        <translation>Erfolgreich</translation>
+    </message>
+    <message>
+        <source>Failed</source>
+        <translation>Fehlgeschlagen</translation>
+    </message>
+    <message>
+        <source>Timeout</source>
+        <translation>Timeout</translation>
+    </message>
+    <message>
+        <source>Running</source>
+        <translation>Läuft</translation>
+    </message>
+    <message>
+        <source>Pending</source>
+        <translation>Ausstehend</translation>
+    </message>
+    <message>
+        <source>Disabled</source>
+        <translation>Deaktiviert</translation>
+    </message>
+    <message>
+        <source>Not scheduled</source>
+        <translation>Nicht geplant</translation>
+    </message>
+    <message>
+        <source>Overdue</source>
+        <translation>Überfällig</translation>
+    </message>
+    <message>
+        <source>%1s left</source>
+        <translation>noch %1 s</translation>
+    </message>
+    <message>
+        <source>%1m %2s left</source>
+        <translation>noch %1 min %2 s</translation>
+    </message>
+    <message>
+        <source>%1d %2h left</source>
+        <translation>noch %1 d %2 h</translation>
+    </message>
+    <message>
+        <source>%1h %2m left</source>
+        <translation>noch %1 h %2 min</translation>
+    </message>
+    <message>
+        <source>Enabled</source>
+        <translation>Aktiviert</translation>
+    </message>
+    <message>
+        <source>Please select a group to edit.</source>
+        <translation>Bitte wählen Sie die Gruppe aus, die bearbeitet werden soll.</translation>
+    </message>
+    <message>
+        <source>Cannot Edit</source>
+        <translation>Bearbeiten nicht möglich</translation>
+    </message>
+    <message>
+        <source>The &apos;Ungrouped&apos; group cannot be edited.</source>
+        <translation>Die Gruppe „Nicht gruppiert“ kann nicht bearbeitet werden.</translation>
+    </message>
+    <message>
+        <source>Select Type</source>
+        <translation>Typ auswählen</translation>
+    </message>
+    <message>
+        <source>Please select a specific task type from the filter before creating a group.</source>
+        <translation>Bitte wählen Sie im Filter einen bestimmten Aufgabentyp aus, bevor Sie eine Gruppe erstellen.</translation>
+    </message>
+</context>
+<context>
+    <name>Scheduler::MCsTaskDialog</name>
+    <message>
+        <source>Test Task</source>
+        <translation>Testaufgabe</translation>
+    </message>
+    <message>
+        <source>Screen Recorder</source>
+        <translation>Bildschirmaufnahme</translation>
+    </message>
+    <message>
+        <source>Audio Recorder</source>
+        <translation>Audioaufnahme</translation>
+    </message>
+    <message>
+        <source>Custom</source>
+        <translation>Benutzerdefiniert</translation>
+    </message>
+</context>
+<context>
+    <name>Scheduler::MCsTaskTableWidget</name>
+    <message numerus="yes">
+        <source>%n task(s)</source>
+        <translation>
+            <numerusform>%n Aufgabe</numerusform>
+            <numerusform>%n Aufgaben</numerusform>
+        </translation>
+    </message>
+</context>
+</TS>

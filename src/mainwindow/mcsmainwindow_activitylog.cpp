@@ -1,0 +1,46 @@
+#include "mcsmainwindow.h"
+
+#include "auditline.h"
+#include "mcsschedulerclient.h"
+#include "messagebox.h"
+#include "ui_mcsmainwindow.h"
+
+namespace Scheduler {
+
+namespace {
+
+constexpr int shownEntries = 100;
+
+} // namespace
+
+void MCsMainWindow::refreshAuditLog()
+{
+    if (!m_client->isConnected()) {
+        showMessage(this, QMessageBox::Warning, tr("Not Connected"),
+                    tr("Cannot refresh audit log because not connected to the service."));
+        return;
+    }
+    m_ui->logView->clear();
+    const QList<AuditLogEntry> newestFirst = m_client->getAuditLogs(shownEntries, false, QDateTime(), QDateTime());
+    m_ui->logView->clear(); // of what another refresh wrote while this one waited
+    for (auto entry = newestFirst.crbegin(); entry != newestFirst.crend(); ++entry)
+        m_ui->logView->append(formatAuditEntry(*entry));
+}
+
+QString MCsMainWindow::formatAuditEntry(const AuditLogEntry &entry) const
+{
+    return auditLine(entry);
+}
+
+void MCsMainWindow::onRefreshAuditLog()
+{
+    refreshAuditLog();
+}
+
+void MCsMainWindow::onAuditLogAutoRefresh()
+{
+    if (m_client->isConnected() && m_state == ConnectionState::Connected)
+        onRefreshAuditLog();
+}
+
+} // namespace Scheduler

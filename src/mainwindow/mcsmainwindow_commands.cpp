@@ -1,0 +1,210 @@
+#include "mcsmainwindow.h"
+
+#include "mcsgroupdialog.h"
+#include "mcsschedulerclient.h"
+#include "messagebox.h"
+#include "tasktexts.h"
+#include "tasktypes.h"
+#include "ui_mcsmainwindow.h"
+
+#include <QTimer>
+
+#include <optional>
+
+using namespace Qt::StringLiterals;
+
+namespace Scheduler {
+
+namespace {
+
+constexpr int refreshAfterTriggerMs = 500;
+
+/// What a task command needs of the selected row. Read before the daemon is asked, since rows may change meanwhile.
+struct SelectedTask {
+    QString id;
+    QString name;
+    QString statusText;
+};
+
+std::optional<SelectedTask> selectedTask(const QTableWidget &table)
+{
+    const QList<QTableWidgetItem *> selected = table.selectedItems();
+    if (selected.isEmpty())
+        return std::nullopt;
+    const int row = selected.first()->row();
+    const QTableWidgetItem *name = table.item(row, 0);
+    const QTableWidgetItem *status = table.item(row, 2);
+    if (name == nullptr)
+        return std::nullopt;
+    return SelectedTask{name->data(Qt::UserRole).toString(), name->text(),
+                        status == nullptr ? QString() : status->text()};
+}
+
+} // namespace
+
+// The task editor, which these two will open, is not part of the manager yet.
+void MCsMainWindow::onCreateTask() {}
+
+void MCsMainWindow::onEditTask() {}
+
+void MCsMainWindow::onDeleteTask()
+{
+    const std::optional<SelectedTask> task = selectedTask(*m_ui->taskTable);
+    if (!task) {
+        showMessage(this, QMessageBox::Warning, tr("No Selection"), tr("Please select a task to delete."));
+        return;
+    }
+    if (!askYesNo(this, tr("Confirm Delete"), tr("Are you sure you want to delete task '%1'?").arg(task->name)))
+        return;
+    if (m_client->deleteTask(task->id))
+        refreshAll();
+    else
+        showMessage(this, QMessageBox::Critical, tr("Delete Error"), tr("Failed to delete task."));
+}
+
+void MCsMainWindow::onToggleTaskEnabled()
+{
+    const std::optional<SelectedTask> task = selectedTask(*m_ui->taskTable);
+    if (!task)
+        return;
+    const bool enabled = task->statusText == enabledText(true);
+    if (enabled ? m_client->disableTask(task->id) : m_client->enableTask(task->id))
+        refreshAll();
+    else
+        showMessage(this, QMessageBox::Critical, tr("Toggle Error"), tr("Failed to toggle task status."));
+}
+
+void MCsMainWindow::onTriggerTask()
+{
+    const std::optional<SelectedTask> task = selectedTask(*m_ui->taskTable);
+    if (!task) {
+        showMessage(this, QMessageBox::Warning, tr("No Selection"), tr("Please select a task to trigger."));
+        return;
+    }
+    if (m_client->triggerTask(task->id))
+        QTimer::singleShot(refreshAfterTriggerMs, this, &MCsMainWindow::onRefreshTaskList);
+    else
+        showMessage(this, QMessageBox::Critical, tr("Trigger Error"), tr("Failed to trigger task."));
+}
+
+void MCsMainWindow::onCreateGroup()
+{
+    showGroupDialog(QString());
+}
+
+void MCsMainWindow::onEditGroup()
+{
+    const QList<QTreeWidgetItem *> selected = m_ui->groupTree->selectedItems();
+    if (selected.isEmpty()) {
+        showMessage(this, QMessageBox::Warning, tr("No Selection"), tr("Please select a group to edit."));
+        return;
+    }
+    const QString groupId = selected.first()->data(0, MCsGroupTreeWidget::GroupIdRole).toString();
+    if (groupId == "ungrouped"_L1) {
+        showMessage(this, QMessageBox::Warning, tr("Cannot Edit"), tr("The 'Ungrouped' group cannot be edited."));
+        return;
+    }
+    showGroupDialog(groupId);
+}
+
+// The type of a new group; nothing after a box where it cannot be told.
+std::optional<QString> MCsMainWindow::newGroupTaskType()
+{
+    if (!m_client->isAllTypesClient())
+        return m_client->clientType();
+    const QComboBox *filter = m_ui->typeFilterCombo;
+    if (filter->currentText() == allTypesText) {
+        showMessage(this, QMessageBox::Warning, tr("Select Type"),
+                    tr("Please select a specific task type from the filter before creating a group."));
+        return std::nullopt;
+    }
+    const QString type = filter->currentData().toString();
+    return type.isEmpty() ? filter->currentText() : type;
+}
+
+void MCsMainWindow::showGroupDialog(const QString &groupId)
+{
+    // An edited group brings its own type.
+    const std::optional<QString> taskType = groupId.isEmpty() ? newGroupTaskType() : QString();
+    if (!taskType)
+        return;
+    const QPointer<MCsGroupDialog> dialog = new MCsGroupDialog(m_client, groupId, *taskType, this);
+    const int result = dialog->exec();
+    if (dialog != nullptr)
+        dialog->deleteLater();
+    if (result != QDialog::Accepted)
+        return;
+    refreshGroupTree();
+    refreshAll();
+}
+
+void MCsMainWindow::onDeleteGroup()
+{
+    const QList<QTreeWidgetItem *> selected = m_ui->groupTree->selectedItems();
+    if (selected.isEmpty()) {
+        showMessage(this, QMessageBox::Warning, tr("No Selection"), tr("Please select a group to delete."));
+        return;
+    }
+    const QString groupId = selected.first()->data(0, MCsGroupTreeWidget::GroupIdRole).toString();
+    if (groupId == "ungrouped"_L1) {
+        showMessage(this, QMessageBox::Warning, tr("Cannot Delete"), tr("The 'Ungrouped' group cannot be deleted."));
+        return;
+    }
+    // The whole text of the item, so that the question tells the number of tasks.
+    const QString question =
+        tr("Are you sure you want to delete group '%1'?\nTasks in this group will be moved to 'Ungrouped'.")
+            .arg(selected.first()->text(0));
+    if (!askYesNo(this, tr("Confirm Delete"), question))
+        return;
+    if (m_client->deleteGroup(groupId, false)) {
+        refreshGroupTree();
+        onRefreshTaskList();
+    } else {
+        showMessage(this, QMessageBox::Critical, tr("Delete Error"), tr("Failed to delete group."));
+    }
+}
+
+void MCsMainWindow::onEnableAllTasksInGroup()
+{
+    if (currentGroupId.isEmpty())
+        return;
+    if (m_client->enableAllTasksInGroup(currentGroupId))
+        refreshAll();
+    else
+        showMessage(this, QMessageBox::Critical, tr("Error"), tr("Failed to enable all tasks in group."));
+}
+
+void MCsMainWindow::onDisableAllTasksInGroup()
+{
+    if (currentGroupId.isEmpty())
+        return;
+    if (m_client->disableAllTasksInGroup(currentGroupId))
+        refreshAll();
+    else
+        showMessage(this, QMessageBox::Critical, tr("Error"), tr("Failed to disable all tasks in group."));
+}
+
+void MCsMainWindow::onTriggerAllTasksInGroup()
+{
+    if (currentGroupId.isEmpty())
+        return;
+    if (m_client->triggerAllTasksInGroup(currentGroupId))
+        QTimer::singleShot(refreshAfterTriggerMs, this, &MCsMainWindow::onRefreshTaskList);
+    else
+        showMessage(this, QMessageBox::Critical, tr("Error"), tr("Failed to trigger all tasks in group."));
+}
+
+void MCsMainWindow::onDeleteAllTasksInGroup()
+{
+    const QString groupId = currentGroupId; // another may be selected by the time the question is answered
+    if (groupId.isEmpty())
+        return;
+    if (!askYesNo(this, tr("Confirm Delete"), tr("Are you sure you want to delete all tasks in this group?")))
+        return;
+    if (m_client->deleteAllTasksInGroup(groupId))
+        onRefreshTaskList();
+    else
+        showMessage(this, QMessageBox::Critical, tr("Error"), tr("Failed to delete all tasks in group."));
+}
+
+} // namespace Scheduler

@@ -1,0 +1,144 @@
+#include "mcsmainwindow.h"
+
+#include "groupmerge.h"
+#include "mcsschedulerclient.h"
+#include "ui_mcsmainwindow.h"
+
+#include <QHash>
+#include <QMenu>
+#include <QTreeWidgetItemIterator>
+
+using namespace Qt::StringLiterals;
+
+namespace Scheduler {
+
+namespace {
+
+constexpr int tintAlpha = 30;
+
+QString itemText(const QString &name, int count)
+{
+    return MCsMainWindow::tr("%1 (%2)").arg(name, QString::number(count));
+}
+
+void tint(QTreeWidgetItem &item, const QString &colorName)
+{
+    QColor color(colorName);
+    if (colorName.isEmpty() || !color.isValid())
+        return;
+    item.setForeground(0, color);
+    color.setAlpha(tintAlpha);
+    item.setBackground(0, color);
+}
+
+QTreeWidgetItem *newItem(const GroupInfo &group)
+{
+    auto *item = new QTreeWidgetItem;
+    item->setText(0, itemText(group.name, group.taskCount));
+    item->setData(0, MCsGroupTreeWidget::GroupIdRole, group.id);
+    item->setData(0, MCsGroupTreeWidget::GroupTaskCountRole, group.taskCount);
+    item->setData(0, MCsGroupTreeWidget::GroupNameRole, group.name);
+    tint(*item, group.color);
+    return item;
+}
+
+/// Parents that form a circle would take their items out of the tree altogether.
+bool isSelfOrAncestor(const QTreeWidgetItem &candidate, const QTreeWidgetItem *item)
+{
+    while (item != nullptr && item != &candidate)
+        item = item->parent();
+    return item != nullptr;
+}
+
+} // namespace
+
+void MCsMainWindow::refreshGroupTree()
+{
+    if (!m_client->isConnected())
+        return;
+    const quint64 refresh = ++m_treeRefresh;
+    m_ui->groupTree->clear(); // a selection goes with it, and the table follows
+    const QList<GroupInfo> groups = m_client->listGroups();
+    // A rebuild that began while this one waited has filled the tree.
+    if (refresh == m_treeRefresh)
+        fillGroupTree(m_client->isAllTypesClient() ? mergedByName(groups) : groups);
+}
+
+void MCsMainWindow::fillGroupTree(const QList<GroupInfo> &groups)
+{
+    QHash<QString, QTreeWidgetItem *> itemsById;
+    QList<QTreeWidgetItem *> items;
+    for (const GroupInfo &group : groups) {
+        items.append(newItem(group));
+        itemsById.insert(group.id, items.last());
+    }
+    // A second pass, so that a child may be listed before its parent.
+    for (qsizetype i = 0; i < groups.size(); ++i) {
+        const QString &parentId = groups.at(i).parentId;
+        QTreeWidgetItem *parent = parentId.isEmpty() ? nullptr : itemsById.value(parentId);
+        if (parent != nullptr && !isSelfOrAncestor(*items.at(i), parent))
+            parent->addChild(items.at(i));
+        else
+            m_ui->groupTree->addTopLevelItem(items.at(i));
+    }
+    m_ui->groupTree->expandAll();
+}
+
+void MCsMainWindow::updateGroupTaskCounts()
+{
+    if (!m_client->isConnected())
+        return;
+    QStringList ids;
+    for (QTreeWidgetItemIterator it(m_ui->groupTree); *it != nullptr; ++it)
+        ids.append((*it)->data(0, MCsGroupTreeWidget::GroupIdRole).toString());
+    for (const QString &id : std::as_const(ids)) {
+        const int count = m_client->getTaskCountByGroup(id);
+        if (!m_client->isConnected())
+            return; // what is shown stays until the daemon is back
+        // The tree may have been rebuilt while the request waited.
+        QTreeWidgetItem *item = findGroupItem(id);
+        if (item == nullptr)
+            continue;
+        item->setText(0, itemText(MCsGroupTreeWidget::plainName(*item), count));
+        item->setData(0, MCsGroupTreeWidget::GroupTaskCountRole, count);
+    }
+}
+
+QTreeWidgetItem *MCsMainWindow::findGroupItem(const QString &groupId) const
+{
+    for (QTreeWidgetItemIterator it(m_ui->groupTree); *it != nullptr; ++it) {
+        if ((*it)->data(0, MCsGroupTreeWidget::GroupIdRole).toString() == groupId)
+            return *it;
+    }
+    return nullptr;
+}
+
+void MCsMainWindow::onGroupSelectionChanged()
+{
+    const QList<QTreeWidgetItem *> selected = m_ui->groupTree->selectedItems();
+    currentGroupId =
+        selected.isEmpty() ? QString() : selected.first()->data(0, MCsGroupTreeWidget::GroupIdRole).toString();
+    const bool editable = !selected.isEmpty() && currentGroupId != "ungrouped"_L1;
+    m_ui->editGroupButton->setEnabled(editable);
+    m_ui->deleteGroupButton->setEnabled(editable);
+    refreshTaskTable();
+}
+
+void MCsMainWindow::onRefreshGroups()
+{
+    refreshGroupTree();
+}
+
+void MCsMainWindow::onGroupExpanded(const QModelIndex & /*index*/) {}
+
+void MCsMainWindow::onGroupCollapsed(const QModelIndex & /*index*/) {}
+
+void MCsMainWindow::showGroupContextMenu(const QPoint &position)
+{
+    const QTreeWidgetItem *item = m_ui->groupTree->itemAt(position);
+    if (item == nullptr || item->data(0, MCsGroupTreeWidget::GroupIdRole).toString() == "ungrouped"_L1)
+        return;
+    groupContextMenu->exec(m_ui->groupTree->viewport()->mapToGlobal(position));
+}
+
+} // namespace Scheduler

@@ -1,0 +1,123 @@
+"""Every translation catalogue is complete and agrees with the sources.
+
+Complete: nothing unfinished, retired or empty, every plural form of the language filled, place markers and line breaks
+as in the English text. Agreeing: a catalogue holds the very messages that lupdate finds in src, no more and no fewer.
+The English one holds none, since the source text stands.
+"""
+
+import re
+import subprocess
+import sys
+import tempfile
+import xml.etree.ElementTree as ElementTree
+from collections import Counter, namedtuple
+from pathlib import Path
+
+CATALOGUES = Path("src/app/i18n")
+PREFIX = "Brelvix_"
+SOURCE_LANGUAGE = "en"
+PLURAL_FORMS = {"ar": 6, "de": 2, "es": 2, "fr": 2, "it": 2, "ja": 1, "pt_BR": 2, "zh_CN": 1, "zh_TW": 1}
+
+# What makes two messages the same one to the translator.
+Key = namedtuple("Key", "context source comment plural")
+
+
+def text_of(element):
+    return "" if element is None else element.text or ""
+
+
+def messages(catalogue):
+    """Pairs of key and translation element, of a file in lupdate's format."""
+    for context in ElementTree.parse(catalogue).getroot().iter("context"):
+        for message in context.iter("message"):
+            key = Key(
+                text_of(context.find("name")),
+                text_of(message.find("source")),
+                text_of(message.find("comment")),
+                message.get("numerus") == "yes",
+            )
+            yield key, message.find("translation")
+
+
+def markers(text, plural):
+    """The place markers of a text and how often each occurs. A number stands for %n in a plural only."""
+    return Counter(re.findall(r"%L?(?:\d{1,2}|n)" if plural else r"%L?\d{1,2}", text))
+
+
+def compare_texts(key, text):
+    """What is wrong with one translated text."""
+    if not text.strip():
+        yield "is empty"
+        return
+    if markers(text, key.plural) != markers(key.source, key.plural):
+        yield f"has other place markers: {text!r}"
+    if text.count("\n") != key.source.count("\n"):
+        yield f"has other line breaks: {text!r}"
+
+
+def check_message(key, translation, language):
+    """What is wrong with one message of a catalogue."""
+    state = None if translation is None else translation.get("type")
+    if translation is None or state:
+        yield f"is {state or 'missing'}"
+        return
+    if not key.plural:
+        yield from compare_texts(key, text_of(translation))
+        return
+    forms = translation.findall("numerusform")
+    if len(forms) != PLURAL_FORMS[language]:
+        yield f"has {len(forms)} plural forms of {PLURAL_FORMS[language]}"
+    for form in forms:
+        yield from compare_texts(key, text_of(form))
+
+
+def check_catalogue(catalogue, language, expected):
+    """Findings about one catalogue, one text each."""
+    findings = []
+    declared = ElementTree.parse(catalogue).getroot().get("language")
+    if declared != language:
+        findings.append(f"{catalogue.name}: its language is {declared}")
+    if language != SOURCE_LANGUAGE and language not in PLURAL_FORMS:
+        return [*findings, f"{catalogue.name}: the plural forms of its language are not known to this check"]
+
+    found = Counter()
+    for key, translation in messages(catalogue):
+        found[key] += 1
+        for problem in check_message(key, translation, language) if language != SOURCE_LANGUAGE else ():
+            findings.append(f"{catalogue.name}: {key.context}: {key.source!r} {problem}")
+
+    expected = set() if language == SOURCE_LANGUAGE else expected
+    for title, keys in (
+        ("missing", expected - found.keys()),
+        ("in no source", found.keys() - expected),
+        ("there twice", {key for key, count in found.items() if count > 1}),
+    ):
+        findings += [f"{catalogue.name}: {key.context}: {key.source!r} is {title}" for key in sorted(keys)]
+    return findings
+
+
+def extract(root, lupdate):
+    """The keys of all messages that the sources hold."""
+    with tempfile.TemporaryDirectory() as directory:
+        extracted = Path(directory) / "extracted.ts"
+        command = [lupdate, "-silent", "-no-obsolete", "-locations", "none", root / "src", "-ts", extracted]
+        subprocess.run(command, check=True)
+        return {key for key, _ in messages(extracted)}
+
+
+def check(root, expected):
+    """Findings about all catalogues, given the keys that each has to hold."""
+    findings = []
+    for catalogue in sorted((root / CATALOGUES).glob("*.ts")):
+        if not catalogue.stem.startswith(PREFIX):
+            findings.append(f"{catalogue.name}: is not named {PREFIX}<language>.ts")
+            continue
+        findings += check_catalogue(catalogue, catalogue.stem.removeprefix(PREFIX), expected)
+    return findings
+
+
+if __name__ == "__main__":
+    source_root = Path(sys.argv[1])
+    problems = check(source_root, extract(source_root, sys.argv[2]))
+    print("\n".join(problems) or "the catalogues are complete")
+    sys.exit(1 if problems else 0)

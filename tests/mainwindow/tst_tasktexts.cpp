@@ -1,0 +1,124 @@
+#include "tasktexts.h"
+#include "testmain.h"
+
+#include <QCoreApplication>
+
+using namespace Scheduler;
+using namespace Qt::StringLiterals;
+
+class TestTaskTexts : public QObject {
+    Q_OBJECT
+
+private slots:
+    void countsDownInWholeUnits_data();
+    void countsDownInWholeUnits();
+    void anInvalidTimeIsNotScheduled();
+    void comparesTimesOfDifferentZones();
+    void countsDownAcrossADaylightSavingChange();
+    void aStatusHasAWordAndAColour_data();
+    void aStatusHasAWordAndAColour();
+    void enabledTasksAreGreenAndDisabledOnesGrey();
+};
+
+void TestTaskTexts::countsDownInWholeUnits_data()
+{
+    QTest::addColumn<qint64>("milliseconds");
+    QTest::addColumn<QString>("text");
+    const auto row = [](qint64 seconds, const QString &text) {
+        QTest::addRow("%lld s", static_cast<long long>(seconds)) << seconds * 1000 << text;
+    };
+    row(-86400, u"Overdue"_s);
+    row(-1, u"Overdue"_s);
+    row(0, u"0s left"_s);
+    row(1, u"1s left"_s);
+    row(59, u"59s left"_s);
+    row(60, u"1m 0s left"_s);
+    row(61, u"1m 1s left"_s);
+    row(3599, u"59m 59s left"_s);
+    row(3600, u"1h 0m left"_s);
+    row(3659, u"1h 0m left"_s);
+    row(3660, u"1h 1m left"_s);
+    row(86399, u"23h 59m left"_s);
+    row(86400, u"1d 0h left"_s);
+    row(90061, u"1d 1h left"_s);
+    row(qint64{70} * 86400, u"70d 0h left"_s);
+    row(qint64{70} * 86400 - 1, u"69d 23h left"_s);
+    QTest::newRow("nothing is rounded up") << qint64{59999} << u"59s left"_s;
+    QTest::newRow("half a second ago") << qint64{-500} << u"0s left"_s;
+}
+
+void TestTaskTexts::countsDownInWholeUnits()
+{
+    QFETCH(qint64, milliseconds);
+    const QDateTime now(QDate(2026, 3, 1), QTime(14, 7, 55));
+    QTEST(nextRunText(now.addMSecs(milliseconds), now), "text");
+}
+
+void TestTaskTexts::anInvalidTimeIsNotScheduled()
+{
+    QCOMPARE(nextRunText(QDateTime(), QDateTime::currentDateTime()), u"Not scheduled"_s);
+}
+
+void TestTaskTexts::comparesTimesOfDifferentZones()
+{
+    const QDateTime now = QDateTime::fromString(u"2026-03-01T14:00:00+02:00"_s, Qt::ISODate);
+    const QDateTime when = QDateTime::fromString(u"2026-03-01T12:30:00Z"_s, Qt::ISODate);
+    QCOMPARE(nextRunText(when, now), u"30m 0s left"_s);
+}
+
+void TestTaskTexts::countsDownAcrossADaylightSavingChange()
+{
+    qputenv("TZ", "Europe/Berlin"); // its clock goes from 2 to 3 on that day
+    tzset();
+    const QDateTime before(QDate(2026, 3, 29), QTime(1, 30));
+    const QDateTime after(QDate(2026, 3, 29), QTime(3, 30));
+    const QString text = nextRunText(after, before);
+    qunsetenv("TZ");
+    tzset();
+    QCOMPARE(text, u"1h 0m left"_s);
+}
+
+void TestTaskTexts::aStatusHasAWordAndAColour_data()
+{
+    QTest::addColumn<QString>("status");
+    QTest::addColumn<QString>("text");
+    QTest::addColumn<QColor>("color");
+    const auto row = [](const QString &status, const QString &text, const QColor &color) {
+        QTest::addRow("'%s'", qPrintable(status)) << status << text << color;
+    };
+    const QColor orange(255, 165, 0, 255);
+    row(u"success"_s, u"Success"_s, Qt::darkGreen);
+    row(u"success - exit 0"_s, u"Success"_s, Qt::darkGreen);
+    row(u"failed"_s, u"Failed"_s, Qt::red);
+    row(u"failed - disk full - really"_s, u"Failed"_s, Qt::red);
+    row(u"timeout"_s, u"Timeout"_s, Qt::red);
+    row(u"running"_s, u"Running"_s, orange);
+    row(u"pending"_s, u"Pending"_s, Qt::gray);
+    row(u"disabled"_s, u"Disabled"_s, Qt::gray);
+    row(u"SUCCESS"_s, u"Success"_s, Qt::gray);
+    row(u"Failed - detail"_s, u"Failed"_s, Qt::gray);
+    row(u"successful"_s, u"successful"_s, Qt::darkGreen);
+    row(u"skipped - on battery"_s, u"skipped - on battery"_s, Qt::gray);
+    row(u"success -exit"_s, u"success -exit"_s, Qt::darkGreen);
+    row(u" - success"_s, u" - success"_s, Qt::gray);
+    row(u"100% %1 <b>x</b>"_s, u"100% %1 <b>x</b>"_s, Qt::gray);
+    row(QString(), QString(), Qt::gray);
+}
+
+void TestTaskTexts::aStatusHasAWordAndAColour()
+{
+    QFETCH(QString, status);
+    QTEST(lastRunText(status), "text");
+    QTEST(lastRunColor(status), "color");
+}
+
+void TestTaskTexts::enabledTasksAreGreenAndDisabledOnesGrey()
+{
+    QCOMPARE(enabledText(true), u"Enabled"_s);
+    QCOMPARE(enabledText(false), u"Disabled"_s);
+    QCOMPARE(enabledColor(true), QColor(Qt::darkGreen));
+    QCOMPARE(enabledColor(false), QColor(Qt::gray));
+}
+
+ORVEL_TEST_MAIN(QCoreApplication, TestTaskTexts)
+#include "tst_tasktexts.moc"

@@ -1,0 +1,122 @@
+# shellcheck shell=bash disable=SC2034
+#
+# Sourced by the commands of this project (run, test, bench, .ci/run): what they need from the system, and how it gets
+# there. The caller has "set -euo pipefail".
+
+# What a build needs. Python is here because the lint tests, which every configuration registers, are written in it.
+build_packages=(
+    g++ cmake ninja-build ccache python3
+    qt6-base-dev qt6-base-dev-tools qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools
+)
+# What the test suite needs beyond a build.
+test_packages=(librsvg2-bin)
+# What the checks of the sources need.
+check_packages=(clang-format clang-tidy)
+# What stands in for a screen where there is none.
+display_packages=(xvfb imagemagick)
+# Recommended, never required: the texts of the ten languages, and the emoji in some headings.
+font_packages=(fonts-dejavu-core fonts-noto-core fonts-noto-cjk fonts-noto-color-emoji)
+
+# The program by which a package is recognised on a system without apt. A package that is missing here is found, or
+# reported, by CMake.
+declare -A program_of_package=(
+    [g++]=g++ [cmake]=cmake [ninja-build]=ninja [python3]=python3 [librsvg2-bin]=rsvg-convert
+    [clang-format]=clang-format [clang-tidy]=run-clang-tidy [xvfb]=Xvfb [imagemagick]=import
+)
+
+# Whether apt's lists of packages were renewed in this run.
+lists_renewed=
+
+say()
+{
+    printf '== %s\n' "$*" >&2
+}
+
+die()
+{
+    printf '%s: %s\n' "${0##*/}" "$*" >&2
+    exit 1
+}
+
+have_apt()
+{
+    command -v apt-get >/dev/null && command -v dpkg-query >/dev/null
+}
+
+# missing_packages <package>...: those that are not installed, one a line.
+missing_packages()
+{
+    local package
+    for package in "$@"; do
+        if [[ "$(dpkg-query -W -f='${db:Status-Status}' "$package" 2>/dev/null)" != installed ]]; then
+            printf '%s\n' "$package"
+        fi
+    done
+}
+
+as_root()
+{
+    if ((EUID == 0)); then
+        "$@"
+    else
+        sudo "$@"
+    fi
+}
+
+# install_through_apt <package>...: fails when one of them cannot be installed.
+install_through_apt()
+{
+    if ((EUID != 0)) && ! command -v sudo >/dev/null; then
+        say "no root rights and no sudo; as root: apt-get install --no-install-recommends $*"
+        return 1
+    fi
+    local apt=(env DEBIAN_FRONTEND=noninteractive apt-get -y -q -o DPkg::Lock::Timeout=300)
+    say "installing: $*"
+    if [[ -z "$lists_renewed" ]]; then
+        # Lists that could not be renewed are no failure yet: the old ones may do.
+        as_root "${apt[@]}" update </dev/null >&2 || say "apt-get update failed; going on with the lists at hand"
+        lists_renewed=yes
+    fi
+    as_root "${apt[@]}" install --no-install-recommends "$@" </dev/null >&2
+}
+
+# require_packages <package>...: returns with all of them in place, or ends the script with a message.
+require_packages()
+{
+    if ! have_apt; then
+        require_programs "$@"
+        return
+    fi
+    local missing
+    mapfile -t missing < <(missing_packages "$@")
+    if ((${#missing[@]} > 0)); then
+        install_through_apt "${missing[@]}" || die "these packages are needed and could not be installed: ${missing[*]}"
+    fi
+}
+
+# require_programs <package>...: where there is no apt, sees that the packages' programs are there all the same.
+require_programs()
+{
+    local package program absent=()
+    for package in "$@"; do
+        program="${program_of_package[$package]:-}"
+        if [[ -n "$program" ]] && ! command -v "$program" >/dev/null; then
+            absent+=("$program")
+        fi
+    done
+    if ((${#absent[@]} > 0)); then
+        die "this system has no apt, and these programs are missing: ${absent[*]}." \
+            "Please install the counterparts of these Debian packages: $*"
+    fi
+}
+
+# recommend_packages <package>...: installs what is missing where that is possible, and goes on where it is not.
+recommend_packages()
+{
+    have_apt || return 0
+    local missing
+    mapfile -t missing < <(missing_packages "$@")
+    if ((${#missing[@]} > 0)) && ! install_through_apt "${missing[@]}"; then
+        say "going on without: ${missing[*]} (some texts may show boxes for letters)"
+    fi
+}
