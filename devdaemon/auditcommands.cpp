@@ -3,6 +3,8 @@
 #include "daemonresponse.h"
 #include "daemontime.h"
 
+#include <algorithm>
+
 namespace Scheduler::DevDaemon {
 
 using namespace Qt::StringLiterals;
@@ -23,14 +25,20 @@ struct AuditQuery {
     }
 };
 
-template <typename Iterator>
-QJsonArray collect(Iterator entry, Iterator end, const AuditQuery &query, int limit, const QTimeZone &zone)
+/// The newest entries up to the limit, in either order.
+QJsonArray collect(const QList<AuditEntry> &audit, const AuditQuery &query, int limit, bool ascending,
+                   const QTimeZone &zone)
 {
-    QJsonArray logs;
-    for (; entry != end && logs.size() < limit; ++entry) {
+    QList<QJsonObject> newestFirst;
+    for (auto entry = audit.crbegin(); entry != audit.crend() && newestFirst.size() < limit; ++entry) {
         if (query.covers(*entry))
-            logs.append(auditEntryToWire(*entry, zone));
+            newestFirst.append(auditEntryToWire(*entry, zone));
     }
+    if (ascending)
+        std::reverse(newestFirst.begin(), newestFirst.end());
+    QJsonArray logs;
+    for (const QJsonObject &entry : newestFirst)
+        logs.append(entry);
     return logs;
 }
 
@@ -45,10 +53,8 @@ QJsonObject listAudit(CommandContext &context, const QJsonObject &payload)
 
     const int askedLimit = payload.value("limit"_L1).toInt();
     const int limit = askedLimit > 0 ? askedLimit : defaultLimit;
-    const QList<AuditEntry> &audit = context.store.state().audit;
     const bool ascending = payload.value("ascending"_L1).toBool();
-    return success({{u"logs"_s, ascending ? collect(audit.cbegin(), audit.cend(), query, limit, zone)
-                                          : collect(audit.crbegin(), audit.crend(), query, limit, zone)}});
+    return success({{u"logs"_s, collect(context.store.state().audit, query, limit, ascending, zone)}});
 }
 
 } // namespace

@@ -36,7 +36,8 @@ CommandLine parseCommandLine(const QStringList &arguments)
         u"N"_s, u"0"_s);
     const QCommandLineOption groups(u"groups"_s, u"The same for groups; goes together with --tasks."_s, u"N"_s, u"0"_s);
     const QCommandLineOption runSeconds(u"run-seconds"_s, u"Let each simulated run take N seconds."_s, u"N"_s, u"5"_s);
-    const QCommandLineOption verbose(u"verbose"_s, u"Write every request and response to standard error."_s);
+    const QCommandLineOption verbose(u"verbose"_s,
+                                     u"Log requests and the beginning of each response to standard error."_s);
 
     QCommandLineParser parser;
     parser.setApplicationDescription(

@@ -25,8 +25,11 @@ QJsonObject forTasksOfGroup(CommandContext &context, const QJsonObject &payload,
 template <bool Enabled> QJsonObject switchAllTasks(CommandContext &context, const QJsonObject &payload)
 {
     return forTasksOfGroup(context, payload, [&context](const QStringList &taskIds) {
-        for (const QString &taskId : taskIds)
-            setTaskEnabled(context, taskId, Enabled);
+        for (const QString &taskId : taskIds) {
+            // A draft without a name stays off.
+            if (!Enabled || !context.store.task(taskId)->name.isEmpty())
+                setTaskEnabled(context, taskId, Enabled);
+        }
     });
 }
 

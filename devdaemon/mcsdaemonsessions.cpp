@@ -12,6 +12,7 @@ using namespace Qt::StringLiterals;
 
 MCsDaemonSessions::MCsDaemonSessions(MCsIPCServer &server, MCsDaemonEngine &engine, QObject *parent)
     : QObject(parent)
+    , m_server(server)
     , m_engine(engine)
 {
     connect(&server, &MCsIPCServer::commandReceived, this, &MCsDaemonSessions::onCommandReceived);
@@ -37,6 +38,9 @@ void MCsDaemonSessions::onClientDisconnected(MCsIPCServerConnection *connection)
 
 QJsonObject MCsDaemonSessions::registerClient(MCsIPCServerConnection *connection, const QJsonObject &payload)
 {
+    // The last frames of a client that has gone still arrive; it must not hold a type that nobody would free.
+    if (!m_server.connections().contains(connection))
+        return errorResponse(u"CLIENT_GONE"_s, u"The connection has ended"_s);
     const QString clientType = payload.value("clientType"_L1).toString();
     if (clientType.isEmpty())
         return invalidPayload(u"'clientType' must be a string that is not empty"_s);

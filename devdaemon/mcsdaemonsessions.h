@@ -40,6 +40,7 @@ private:
     [[nodiscard]] QJsonObject execute(MCsIPCServerConnection *connection, const QString &command,
                                       const QJsonValue &payload);
 
+    MCsIPCServer &m_server;
     MCsDaemonEngine &m_engine;
     QHash<MCsIPCServerConnection *, QString> m_clientTypes; ///< of the registered connections
 };

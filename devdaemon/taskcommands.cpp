@@ -120,6 +120,8 @@ template <bool Enabled> QJsonObject switchTask(CommandContext &context, const QJ
     const QString taskId = payload.value("taskId"_L1).toString();
     if (context.store.task(taskId) == nullptr)
         return taskNotFound(taskId);
+    if (Enabled && context.store.task(taskId)->name.isEmpty())
+        return invalidPayload(u"An enabled task must have a name"_s);
     setTaskEnabled(context, taskId, Enabled);
     return success();
 }

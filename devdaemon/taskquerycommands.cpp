@@ -3,6 +3,8 @@
 #include "daemonresponse.h"
 #include "daemontasktypes.h"
 
+#include <algorithm>
+
 namespace Scheduler::DevDaemon {
 
 using namespace Qt::StringLiterals;
@@ -16,9 +18,18 @@ QJsonObject getTask(CommandContext &context, const QJsonObject &payload)
     return task == nullptr ? taskNotFound(taskId) : success({{u"task"_s, context.store.taskToWire(*task)}});
 }
 
-QJsonObject listByType(CommandContext &context, const QJsonObject &payload)
+/// The types that a query for one is about. A manager asks for all types whenever no filter is set; one that serves a
+/// single type means its own tasks by that.
+QString askedType(const CommandContext &context, const QJsonObject &payload)
 {
     const QString type = payload.value("type"_L1).toString();
+    const QString scope = typeScope(context);
+    return type == allTypesId && !scope.isEmpty() ? scope : type;
+}
+
+QJsonObject listByType(CommandContext &context, const QJsonObject &payload)
+{
+    const QString type = askedType(context, payload);
     const auto wanted = [&type](const Task &task) { return typeCovers(type, task.type); };
     return success({{u"tasks"_s, context.store.tasksToWire(wanted)}});
 }
@@ -36,7 +47,7 @@ QJsonObject listByGroupAndType(CommandContext &context, const QJsonObject &paylo
 
 QJsonObject countByType(CommandContext &context, const QJsonObject &payload)
 {
-    const QString type = payload.value("type"_L1).toString();
+    const QString type = askedType(context, payload);
     const QList<Task> &tasks = context.store.state().tasks;
     const auto count =
         std::count_if(tasks.begin(), tasks.end(), [&type](const Task &task) { return typeCovers(type, task.type); });

@@ -24,7 +24,7 @@ void startLogging();
 
 /// Parses and checks a command line, whose first element is the program. Shows a box and returns nothing where it
 /// cannot be used. Help, version and malformed options end the process.
-[[nodiscard]] std::optional<StartValues> readCommandLine(const QStringList &arguments);
+[[nodiscard]] std::optional<StartValues> readCommandLine(const QStringList &commandLine);
 
 /// Runs the manager from the application object to the end of its event loop; the result is the exit status.
 [[nodiscard]] int runManager(int argc, char **argv);

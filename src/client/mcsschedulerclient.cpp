@@ -222,7 +222,8 @@ void MCsSchedulerClient::onConnectionLost()
     }
     emit disconnected();
     emit connectionLost();
-    if (m_autoReconnect && !m_reconnecting) {
+    // A slot may have connected anew already.
+    if (m_autoReconnect && !m_reconnecting && !isConnected()) {
         m_reconnectAttempts = 0;
         m_reconnecting = true;
         scheduleReconnect();
@@ -233,8 +234,8 @@ void MCsSchedulerClient::scheduleReconnect()
 {
     if (!m_autoReconnect || !m_reconnecting)
         return;
-    if (m_reconnectAttempts >= maxReconnectAttempts) {
-        MCsLogger::instance().warn(logSource(), u"Max reconnect attempts reached (%1)"_s.arg(maxReconnectAttempts));
+    if (m_reconnectAttempts >= MaxReconnectAttempts) {
+        MCsLogger::instance().warn(logSource(), u"Max reconnect attempts reached (%1)"_s.arg(MaxReconnectAttempts));
         m_reconnecting = false;
         setLastError(u"RECONNECT_FAILED"_s, u"Connection lost and reconnection failed"_s);
         emit reconnectFailed();
@@ -256,9 +257,11 @@ void MCsSchedulerClient::onReconnectTimerTimeout()
     if (!m_autoReconnect || !m_reconnecting)
         return;
     ++m_reconnectAttempts;
-    emit reconnecting(m_reconnectAttempts, maxReconnectAttempts);
+    emit reconnecting(m_reconnectAttempts, MaxReconnectAttempts);
+    if (!m_autoReconnect || !m_reconnecting)
+        return; // given up in a slot
     MCsLogger::instance().info(logSource(),
-                               u"Reconnect attempt %1 of %2"_s.arg(m_reconnectAttempts).arg(maxReconnectAttempts));
+                               u"Reconnect attempt %1 of %2"_s.arg(m_reconnectAttempts).arg(MaxReconnectAttempts));
     const bool reached = connectToDaemon(1, 0);
     // Slots that ran meanwhile may have given the sequence up.
     if (!m_autoReconnect || !m_reconnecting)

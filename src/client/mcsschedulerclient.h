@@ -27,7 +27,7 @@ class MCsSchedulerClient : public QObject {
     Q_DISABLE_COPY_MOVE(MCsSchedulerClient)
 
 public:
-    static constexpr int maxReconnectAttempts = 8;
+    static constexpr int MaxReconnectAttempts = 8;
     static constexpr int commandTimeoutMs = 2000;
     static constexpr int connectionCheckIntervalMs = 2000;
 

@@ -11,6 +11,7 @@
 #include <QThread>
 #include <QTimer>
 
+#include <algorithm>
 #include <memory>
 #include <utility>
 
@@ -66,12 +67,12 @@ bool MCsIPCConnection::connectToServer(int maxRetries, int retryDelayMs)
 {
     if (isConnected())
         return true;
-    int delay = retryDelayMs;
+    qint64 delay = retryDelayMs;
     for (int attempt = 1; attempt <= maxRetries; ++attempt) {
         if (attempt > 1) {
             MCsLogger::instance().debug(
                 logSource(), u"Retry attempt %1 of %2 after %3 ms"_s.arg(attempt).arg(maxRetries).arg(delay));
-            QThread::msleep(static_cast<unsigned long>(qMax(delay, 0)));
+            QThread::msleep(static_cast<unsigned long>(qMax<qint64>(delay, 0)));
             delay *= 2;
         }
         const std::optional<QString> failure = attemptConnection();
@@ -227,12 +228,14 @@ void MCsIPCConnection::dropRequestTimer(const QString &requestId)
 
 void MCsIPCConnection::onConnected()
 {
+    const BusyGuard guard(this);
     MCsLogger::instance().debug(logSource(), u"Connected to IPC server: %1"_s.arg(m_serverName));
     emit connected();
 }
 
 void MCsIPCConnection::onDisconnected()
 {
+    const BusyGuard guard(this);
     MCsLogger::instance().debug(logSource(), u"Disconnected from IPC server: %1"_s.arg(m_serverName));
     emit disconnected();
 }
@@ -255,6 +258,7 @@ void MCsIPCConnection::onSocketError(QLocalSocket::LocalSocketError /*socketErro
 {
     if (m_socket == nullptr)
         return;
+    const BusyGuard guard(this);
     const QString message = u"Socket error: %1"_s.arg(m_socket->errorString());
     MCsLogger::instance().error(logSource(), message);
     emit error(message);
@@ -265,11 +269,12 @@ void MCsIPCConnection::onRequestTimeout()
     auto *timer = qobject_cast<QTimer *>(sender());
     if (timer == nullptr)
         return;
-    const QString requestId = m_requestTimers.key(timer);
-    if (!m_requestTimers.contains(requestId))
+    const auto entry = std::find(m_requestTimers.cbegin(), m_requestTimers.cend(), timer);
+    if (entry == m_requestTimers.cend())
         return;
+    const QString requestId = entry.key();
     MCsLogger::instance().warn(logSource(), u"Request timed out: %1"_s.arg(requestId));
-    m_requestTimers.remove(requestId);
+    m_requestTimers.erase(entry);
     timer->deleteLater();
     QJsonObject response = errorResponse(u"TIMEOUT"_s, u"Request timed out"_s);
     response.insert("id"_L1, requestId);

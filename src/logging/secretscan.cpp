@@ -50,7 +50,7 @@ constexpr bool isMark(const uchar *bytes)
 /// doubles their number. That other characters may then pass for letters gives a false alarm, no more.
 void findAlarms(const char16_t *units, qsizetype places, char *alarms)
 {
-    std::array<uchar, blockSize + markSize - 1> bytes;
+    std::array<uchar, blockSize + markSize - 1> bytes; // NOLINT(*-member-init): written before it is read
     for (qsizetype i = 0; i < places + markSize - 1; ++i)
         bytes[std::size_t(i)] = uchar(units[i]);
     for (qsizetype i = 0; i < places; ++i) {
@@ -89,7 +89,7 @@ bool isTrueAlarm(QStringView text, qsizetype place)
 
 bool mayHoldSecret(QStringView text)
 {
-    std::array<char, blockSize> alarms;
+    std::array<char, blockSize> alarms; // NOLINT(*-member-init): written before it is read
     // A trigger word has a separator and a value behind it, so nothing that counts begins in the last two places.
     const qsizetype allPlaces = text.size() - markSize + 1;
     for (qsizetype begin = 0; begin < allPlaces; begin += blockSize) {

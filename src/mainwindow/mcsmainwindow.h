@@ -199,6 +199,7 @@ private:
     bool m_updatingStatuses = false; ///< a one-second update waits for its answer
     quint64 m_tableRefresh = 0;      ///< number of the newest table refresh; an older one's answer is stale
     quint64 m_treeRefresh = 0;       ///< the same for the tree
+    quint64 m_losses = 0;            ///< connections that have ended; an answer from before the last is stale
 };
 
 } // namespace Scheduler

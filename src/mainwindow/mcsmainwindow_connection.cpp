@@ -3,6 +3,7 @@
 #include "mcslogger.h"
 #include "mcsschedulerclient.h"
 #include "messagebox.h"
+#include "reconnectdialog.h"
 #include "servicecontrol.h"
 #include "ui_mcsmainwindow.h"
 
@@ -29,9 +30,8 @@ void quitSoon()
     QTimer::singleShot(0, qApp, &QCoreApplication::quit);
 }
 
-QProgressDialog *newBusyDialog(const QString &objectName, const QString &title, const QString &text, QWidget *parent)
+void prepareBusyDialog(QProgressDialog *dialog, const QString &objectName, const QString &title, const QString &text)
 {
-    auto *dialog = new QProgressDialog(parent);
     dialog->setObjectName(objectName);
     dialog->setWindowTitle(title);
     dialog->setLabelText(text);
@@ -40,7 +40,6 @@ QProgressDialog *newBusyDialog(const QString &objectName, const QString &title, 
     dialog->setMinimumDuration(0);
     dialog->setAutoClose(false);
     dialog->setAutoReset(false);
-    return dialog;
 }
 
 void closeDialog(QPointer<QProgressDialog> &dialog)
@@ -60,6 +59,7 @@ void MCsMainWindow::autoConnectToDaemon()
 {
     if (m_state == ConnectionState::Connected || m_state == ConnectionState::Closing)
         return;
+    closeReconnectDialog(); // nothing else would, once the client does not reconnect by itself
     if (m_client->isConnected()) {
         enterConnectedState();
         return;
@@ -288,6 +288,7 @@ void MCsMainWindow::onClientConnected()
 
 void MCsMainWindow::onClientDisconnected()
 {
+    ++m_losses;
     if (m_state != ConnectionState::Closing)
         setStatusLabel(false);
 }
@@ -348,7 +349,8 @@ void MCsMainWindow::showFatalErrorAndQuit(const QString &message)
 void MCsMainWindow::showConnectingDialog(const QString &text)
 {
     if (m_connectDialog == nullptr) {
-        m_connectDialog = newBusyDialog(u"connectDialog"_s, tr("Connecting"), text, this);
+        m_connectDialog = new QProgressDialog(this);
+        prepareBusyDialog(m_connectDialog, u"connectDialog"_s, tr("Connecting"), text);
         m_connectDialog->setCancelButtonText(tr("Cancel"));
     }
     m_connectDialog->setLabelText(text);
@@ -370,9 +372,12 @@ void MCsMainWindow::showReconnectDialog()
 {
     if (m_reconnectDialog != nullptr)
         return;
-    m_reconnectDialog = newBusyDialog(u"reconnectDialog"_s, tr("Connection Lost"),
-                                      tr("Connection lost. Reconnecting to scheduler service..."), this);
-    m_reconnectDialog->setCancelButton(nullptr);
+    auto *dialog = new ReconnectDialog(this);
+    connect(dialog, &ReconnectDialog::closeRequested, this, &QWidget::close);
+    m_reconnectDialog = dialog;
+    prepareBusyDialog(dialog, u"reconnectDialog"_s, tr("Connection Lost"),
+                      tr("Connection lost. Reconnecting to scheduler service..."));
+    dialog->setCancelButton(nullptr);
     m_reconnectDialog->show();
 }
 

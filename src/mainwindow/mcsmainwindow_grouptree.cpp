@@ -56,8 +56,14 @@ void MCsMainWindow::refreshGroupTree()
 {
     if (!m_client->isConnected())
         return;
+    // The table follows the selection and waits for the daemon, and the user may select again meanwhile. So the
+    // selection goes first, and the clearing itself runs no event loop.
+    while (!m_ui->groupTree->selectedItems().isEmpty())
+        m_ui->groupTree->clearSelection();
+    if (!m_client->isConnected())
+        return;
     const quint64 refresh = ++m_treeRefresh;
-    m_ui->groupTree->clear(); // a selection goes with it, and the table follows
+    m_ui->groupTree->clear();
     const QList<GroupInfo> groups = m_client->listGroups();
     // A rebuild that began while this one waited has filled the tree.
     if (refresh == m_treeRefresh)
@@ -88,13 +94,14 @@ void MCsMainWindow::updateGroupTaskCounts()
 {
     if (!m_client->isConnected())
         return;
+    const quint64 losses = m_losses;
     QStringList ids;
     for (QTreeWidgetItemIterator it(m_ui->groupTree); *it != nullptr; ++it)
         ids.append((*it)->data(0, MCsGroupTreeWidget::GroupIdRole).toString());
     for (const QString &id : std::as_const(ids)) {
         const int count = m_client->getTaskCountByGroup(id);
-        if (!m_client->isConnected())
-            return; // what is shown stays until the daemon is back
+        if (losses != m_losses)
+            return; // a lost connection's count; what is shown stays, or is of the next connection already
         // The tree may have been rebuilt while the request waited.
         QTreeWidgetItem *item = findGroupItem(id);
         if (item == nullptr)

@@ -75,10 +75,11 @@ void MCsMainWindow::refreshTaskTable()
     if (!m_client->isConnected())
         return;
     const quint64 refresh = ++m_tableRefresh;
+    const quint64 losses = m_losses;
     const QList<TaskInfo> tasks = listShownTasks();
     // Another refresh may have run while this one waited; what it filled in is newer, perhaps of another group. And
     // rows stay as they are when the connection is lost.
-    if (refresh == m_tableRefresh && m_client->isConnected())
+    if (refresh == m_tableRefresh && losses == m_losses)
         fillTaskTable(tasks);
 }
 
@@ -173,9 +174,12 @@ void MCsMainWindow::updateTaskRow(int row, const TaskInfo &task)
 void MCsMainWindow::refreshTypeFilter()
 {
     QComboBox *filter = m_ui->typeFilterCombo;
+    const quint64 losses = m_losses;
     filter->clear();
     filter->addItem(allTypesText, QVariant());
     const QList<TaskTypeInfo> types = m_client->listTaskTypes();
+    if (losses != m_losses)
+        return;
     // A refill that ran while this one waited has added its items.
     while (filter->count() > 1)
         filter->removeItem(filter->count() - 1);

@@ -24,9 +24,9 @@ constexpr int defaultMaximum = 999999;
 /// How one type of field is made, read and written.
 struct FieldKind {
     QStringView type;
-    QWidget *(*create)(const TaskFieldInfo &field, const FieldDefaults &defaults, QWidget *parent);
-    QJsonValue (*read)(const QWidget *widget);
-    void (*write)(QWidget *widget, const QJsonValue &value);
+    QWidget *(*create)(const TaskFieldInfo &field, const FieldDefaults &defaults, QWidget *parent) = nullptr;
+    QJsonValue (*read)(const QWidget *widget) = nullptr;
+    void (*write)(QWidget *widget, const QJsonValue &value) = nullptr;
 };
 
 template <typename Widget> const Widget *as(const QWidget *widget)

@@ -113,6 +113,10 @@ void TestDaemonAudit::theLimitKeepsTheNewest()
     QCOMPARE(audit.first().value("entityName"_L1).toString(), u"100"_s);
     QCOMPARE(audit.last().value("entityName"_L1).toString(), u"1"_s);
     QCOMPARE(daemon.audit({{u"limit"_s, 3}}).size(), 3);
+    const QList<QJsonObject> ascending = daemon.audit({{u"limit"_s, 2}, {u"ascending"_s, true}});
+    QCOMPARE(ascending.size(), 2);
+    QCOMPARE(ascending.first().value("entityName"_L1).toString(), u"99"_s);
+    QCOMPARE(ascending.last().value("entityName"_L1).toString(), u"100"_s);
     QCOMPARE(daemon.audit({{u"limit"_s, 0}}).size(), 100);
 }
 

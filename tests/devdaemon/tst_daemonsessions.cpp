@@ -2,8 +2,10 @@
 #include "mcsdevdaemon.h"
 #include "testmain.h"
 #include "wireclient.h"
+#include "wireprotocol.h"
 
 #include <QJsonArray>
+#include <QLocalSocket>
 #include <QSignalSpy>
 
 using namespace Qt::StringLiterals;
@@ -20,6 +22,7 @@ private slots:
     void aSecondClientOfATypeIsRefusedAndStaysConnected();
     void clientsOfDifferentTypesLiveTogether();
     void theTypeIsFreeOnceItsClientHasLeft();
+    void aClientThatHasGoneHoldsNoType();
     void registeringAgainIsHarmless();
     void aClientMayChangeItsType();
     void aTypeMustBeAText_data();
@@ -113,6 +116,22 @@ void TestDaemonSessions::theTypeIsFreeOnceItsClientHasLeft()
     first.disconnect();
     QTRY_VERIFY(messages().contains(u"client left: task_type.test"_s));
     QCOMPARE(second.registerAs(u"task_type.test"_s), QString());
+}
+
+void TestDaemonSessions::aClientThatHasGoneHoldsNoType()
+{
+    {
+        QLocalSocket hasty;
+        hasty.connectToServer(Scheduler::defaultPipeName());
+        QVERIFY(hasty.waitForConnected());
+        hasty.write("garbage\n{\"id\":\"a\",\"cmd\":\"client.register\","
+                    "\"payload\":{\"clientType\":\"task_type.test\"}}\n");
+        hasty.flush();
+        hasty.abort(); // before anything could be read
+    }
+    WireClient client;
+    QVERIFY(client.connectToDaemon());
+    QTRY_COMPARE(client.registerAs(u"task_type.test"_s), QString());
 }
 
 void TestDaemonSessions::registeringAgainIsHarmless()

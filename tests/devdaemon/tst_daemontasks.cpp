@@ -11,6 +11,7 @@ private slots:
     void aCreatedTaskIsReadBackAsSent();
     void tasksAreListedInOrderOfCreation();
     void theAllTypesIdAndAnEmptyTypeCoverEveryType();
+    void aClientOfOneTypeGetsItsOwnTasksForAllTypes();
     void countsFollowCreatingAndDeleting();
     void updatingReplacesTheDocumentAndTheNextRun();
     void updatingKeepsWhatTheDocumentLeavesOut();
@@ -88,6 +89,20 @@ void TestDaemonTasks::theAllTypesIdAndAnEmptyTypeCoverEveryType()
     QCOMPARE(namesByType(daemon, QString()), both);
     QCOMPARE(namesByType(daemon, u"task_type.audio_record"_s), QStringList{u"audio"_s});
     QCOMPARE(namesByType(daemon, u"task_type.nobody_knows"_s), QStringList());
+}
+
+void TestDaemonTasks::aClientOfOneTypeGetsItsOwnTasksForAllTypes()
+{
+    EngineFixture daemon;
+    daemon.addTask(u"screen"_s);
+    daemon.addTask(u"audio"_s, {}, {}, u"task_type.audio_record"_s);
+    daemon.actor = u"task_type.audio_record"_s;
+    QCOMPARE(namesByType(daemon, u"task_type.all"_s), QStringList{u"audio"_s});
+    QCOMPARE(countByType(daemon, u"task_type.all"_s), 1);
+    QCOMPARE(namesByType(daemon, u"task_type.screen_record"_s), QStringList{u"screen"_s});
+    daemon.actor = u"task_type.all"_s;
+    const QStringList both{u"screen"_s, u"audio"_s};
+    QCOMPARE(namesByType(daemon, u"task_type.all"_s), both);
 }
 
 void TestDaemonTasks::countsFollowCreatingAndDeleting()
@@ -169,7 +184,13 @@ void TestDaemonTasks::onlyADisabledTaskMayLackAName()
     QJsonObject document{{u"name"_s, u"  "_s}, {u"type"_s, u"task_type.test"_s}, {u"enabled"_s, true}};
     QCOMPARE(daemon.errorOf(u"task.create"_s, QJsonObject{{u"task"_s, document}}), u"INVALID_PAYLOAD"_s);
     document.insert("enabled"_L1, false);
-    QCOMPARE(daemon.errorOf(u"task.create"_s, QJsonObject{{u"task"_s, document}}), QString());
+    const QString draft =
+        daemon.data(u"task.create"_s, QJsonObject{{u"task"_s, document}}).value("taskId"_L1).toString();
+    QVERIFY(!draft.isEmpty());
+    QCOMPARE(daemon.errorOf(u"task.enable"_s, QJsonObject{{u"taskId"_s, draft}}), u"INVALID_PAYLOAD"_s);
+    QCOMPARE(daemon.errorOf(u"group.enableAllTasks"_s, QJsonObject{{u"groupId"_s, u"ungrouped"_s}}), QString());
+    const QJsonObject task = daemon.data(u"task.get"_s, QJsonObject{{u"taskId"_s, draft}}).value("task"_L1).toObject();
+    QVERIFY(!task.value("enabled"_L1).toBool(true));
 }
 
 void TestDaemonTasks::unknownTypesAndGroupsAreRefused()

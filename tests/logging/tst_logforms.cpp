@@ -23,6 +23,21 @@ QJsonObject single(const QString &key, const QJsonValue &value)
     return {{key, value}};
 }
 
+/// The entry as a JSON document prints it.
+QString printed(const QString &timestamp, const QString &source, const QString &message, const QJsonObject &context)
+{
+    QJsonArray entry{single(u"level"_s, u"WARN"_s), single(u"timestamp"_s, timestamp), single(u"source"_s, source),
+                     single(u"message"_s, message)};
+    if (!context.isEmpty())
+        entry.append(single(u"context"_s, context));
+    return QString::fromUtf8(QJsonDocument(entry).toJson(QJsonDocument::Compact));
+}
+
+QString timestampOf(const QString &debugText)
+{
+    return QJsonDocument::fromJson(debugText.toUtf8()).array().at(1)[u"timestamp"].toString();
+}
+
 } // namespace
 
 /// What an entry looks like in the file and in the debug output.
@@ -39,6 +54,7 @@ private slots:
     void messageIsWrittenAsItStands();
     void debugOutputIsAnArrayOfSingleKeyObjects_data();
     void debugOutputIsAnArrayOfSingleKeyObjects();
+    void everyCharacterIsEscapedAsJsonAsksFor();
     void bothFormsAreRedacted();
     void sourceIsNotRedacted();
 
@@ -142,13 +158,26 @@ void LogFormsTest::debugOutputIsAnArrayOfSingleKeyObjects()
     MCsLogger::instance().warn(source, message, context);
 
     const QString text = debugText(capture);
-    const QString timestamp = QJsonDocument::fromJson(text.toUtf8()).array().at(1)[u"timestamp"].toString();
-    QJsonArray expected{single(u"level"_s, u"WARN"_s), single(u"timestamp"_s, timestamp), single(u"source"_s, source),
-                        single(u"message"_s, message)};
-    if (!context.isEmpty())
-        expected.append(single(u"context"_s, context));
-    QCOMPARE(text, QString::fromUtf8(QJsonDocument(expected).toJson(QJsonDocument::Compact)));
-    QVERIFY(QDateTime::fromString(timestamp, Qt::ISODate).isValid());
+    QCOMPARE(text, printed(timestampOf(text), source, message, context));
+    QVERIFY(QDateTime::fromString(timestampOf(text), Qt::ISODate).isValid());
+}
+
+void LogFormsTest::everyCharacterIsEscapedAsJsonAsksFor()
+{
+    MCsLogger::instance().setLogFilePath({});
+    LogCapture capture;
+    const auto check = [&capture](char16_t first, char16_t last) {
+        for (char32_t unit = first; unit <= last; ++unit) {
+            const QString message(1, QChar(char16_t(unit)));
+            capture.clear();
+            MCsLogger::instance().warn(u"Main"_s, message);
+            const QString text = debugText(capture);
+            QCOMPARE(text, printed(timestampOf(text), u"Main"_s, message, {}));
+        }
+    };
+    check(0, 0x180);
+    check(0xD7F0, 0xE010); // around the surrogates
+    check(0xFFF0, 0xFFFF);
 }
 
 void LogFormsTest::bothFormsAreRedacted()

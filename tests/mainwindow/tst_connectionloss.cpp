@@ -4,9 +4,11 @@
 #include "windowfixture.h"
 
 #include <QApplication>
+#include <QCloseEvent>
 #include <QProgressDialog>
 #include <QPushButton>
 #include <QTableWidget>
+#include <QTextEdit>
 #include <QTreeWidget>
 
 using namespace Scheduler;
@@ -40,6 +42,10 @@ private slots:
     void aLossForGoodEndsTheApplication();
     void aLossUnderARefreshThatFollowsConnectingBringsNoBox_data();
     void aLossUnderARefreshThatFollowsConnectingBringsNoBox();
+    void theAnswerOfALostConnectionIsDropped();
+    void theReconnectDialogCannotBeDismissed();
+    void closingTheReconnectDialogClosesTheWindow();
+    void startingToConnectEndsTheReconnectDialog();
     void aLossWhileAFatalBoxIsUpChangesNothing();
     void theMonitorFindsALossThatWasNotSignalled();
     void everyStateButConnectedAndIdleIgnoresALoss();
@@ -154,6 +160,68 @@ void TestConnectionLoss::aLossUnderARefreshThatFollowsConnectingBringsNoBox()
     QTRY_VERIFY(log.lines(u"MCsSchedulerClient"_s).contains(u"ERROR TIMEOUT: Request timed out after 2000ms"_s));
     QCOMPARE(fixture.window->connectionState(), ConnectionState::Connected);
     QVERIFY2(driver.finished(), driver.problems());
+}
+
+void TestConnectionLoss::theAnswerOfALostConnectionIsDropped()
+{
+    WindowFixture fixture;
+    fixture.daemon.answer(u"task.countByGroupAndType"_s, {{u"count"_s, 7}});
+    fixture.daemon.answer(
+        u"audit.list"_s,
+        {{u"logs"_s, QJsonArray{QJsonObject{{u"action"_s, u"task.created"_s}, {u"entityName"_s, u"One"_s}}}}});
+    QVERIFY(fixture.connectWindow());
+    fixture.setGroups({groupJson(u"g1"_s, u"Work"_s, {{u"taskCount"_s, 7}})});
+    const auto lose = [&fixture](const QString &command) {
+        fixture.daemon.onRequest(command, [&fixture, command](const QJsonObject &) {
+            fixture.daemon.onRequest(command, {});
+            fixture.daemon.dropConnections();
+        });
+        const LogCapture log(1);
+        fixture.window->onRefreshTaskList(); // returns when the lost wait has timed out, after the reconnection
+        return log.lines(u"MCsSchedulerClient"_s).contains(u"INFO Reconnected successfully"_s);
+    };
+    QVERIFY(lose(u"task.countByGroupAndType"_s));
+    QCOMPARE(fixture.widget<QTreeWidget>("groupTree")->topLevelItem(0)->text(0), u"Work (7)"_s);
+    QVERIFY(lose(u"audit.list"_s));
+    QVERIFY(fixture.widget<QTextEdit>("logView")->toPlainText().contains(u"Task 'One' created"_s));
+    QVERIFY(lose(u"task.listByType"_s));
+    QCOMPARE(fixture.widget<QTableWidget>("taskTable")->rowCount(), 2);
+}
+
+void TestConnectionLoss::theReconnectDialogCannotBeDismissed()
+{
+    WindowFixture fixture;
+    QVERIFY(fixture.connectWindow());
+    fixture.daemon.stop();
+    QTRY_COMPARE(fixture.window->connectionState(), ConnectionState::Reconnecting);
+    QTest::keyClick(reconnectDialog(fixture), Qt::Key_Escape);
+    QVERIFY(reconnectDialog(fixture) != nullptr);
+}
+
+void TestConnectionLoss::closingTheReconnectDialogClosesTheWindow()
+{
+    WindowFixture fixture;
+    QVERIFY(fixture.connectWindow());
+    fixture.daemon.stop();
+    QTRY_COMPARE(fixture.window->connectionState(), ConnectionState::Reconnecting);
+    QCloseEvent event; // as from the window system
+    QSpontaneKeyEvent::setSpontaneous(&event);
+    qApp->notify(reconnectDialog(fixture), &event);
+    QTRY_VERIFY(!fixture.window->isVisible());
+    QCOMPARE(fixture.window->connectionState(), ConnectionState::Closing);
+    QVERIFY(reconnectDialog(fixture) == nullptr);
+}
+
+void TestConnectionLoss::startingToConnectEndsTheReconnectDialog()
+{
+    WindowFixture fixture;
+    QVERIFY(fixture.connectWindow());
+    fixture.daemon.stop();
+    QTRY_COMPARE(fixture.window->connectionState(), ConnectionState::Reconnecting);
+    fixture.window->onConnectToDaemon();
+    QVERIFY(reconnectDialog(fixture) == nullptr);
+    QVERIFY(fixture.daemon.listen());
+    QTRY_COMPARE(fixture.window->connectionState(), ConnectionState::Connected);
 }
 
 void TestConnectionLoss::aLossWhileAFatalBoxIsUpChangesNothing()

@@ -68,6 +68,10 @@ private slots:
     void theRefusedAttemptsAreLogged();
     void cancelEndsTheProcedureAtTheNextStep_data();
     void cancelEndsTheProcedureAtTheNextStep();
+    void cancelDuringTheFirstAttemptCountsAtTheNextStep_data();
+    void cancelDuringTheFirstAttemptCountsAtTheNextStep();
+    void closingTheWindowEndsTheProcedure_data();
+    void closingTheWindowEndsTheProcedure();
     void cancelDuringTheLastRetryComesTooLate();
 };
 
@@ -205,6 +209,62 @@ void TestServiceStart::cancelEndsTheProcedureAtTheNextStep()
     QCOMPARE(steps.size(), afterStep);
     QTEST(static_cast<int>(tools.calls().size()), "calls");
     QCOMPARE(fixture.window->connectionState(), ConnectionState::Closing);
+}
+
+void TestServiceStart::cancelDuringTheFirstAttemptCountsAtTheNextStep_data()
+{
+    QTest::addColumn<bool>("accepted");
+    QTest::newRow("attempt refused") << false;
+    QTest::newRow("attempt accepted") << true;
+}
+
+void TestServiceStart::cancelDuringTheFirstAttemptCountsAtTheNextStep()
+{
+    QFETCH(bool, accepted);
+    const FakeServiceTools tools;
+    ModalDriver driver;
+    WindowFixture fixture;
+    QVERIFY(fixture.startDaemon());
+    if (!accepted)
+        fixture.daemon.refuse(u"client.register"_s, u"BUSY"_s, u"no"_s);
+    fixture.daemon.onRequest(u"client.register"_s,
+                             [&](const QJsonObject &) { click(connectDialog(fixture)->findChild<QPushButton *>()); });
+    fixture.open();
+    if (accepted) {
+        QTRY_COMPARE(fixture.window->connectionState(), ConnectionState::Connected);
+    } else {
+        QCOMPARE(runUntilQuit(), 0);
+        QCOMPARE(fixture.window->connectionState(), ConnectionState::Closing);
+    }
+    QVERIFY2(driver.finished(), driver.problems());
+    QCOMPARE(fixture.daemon.requests(u"client.register"_s).size(), 1);
+    QCOMPARE(tools.calls(), QStringList());
+}
+
+void TestServiceStart::closingTheWindowEndsTheProcedure_data()
+{
+    QTest::addColumn<int>("afterStep");
+    QTest::newRow("after attempt 2") << 2;
+    QTest::newRow("while waiting for the service") << 4;
+    QTest::newRow("after retry 1") << 5;
+}
+
+void TestServiceStart::closingTheWindowEndsTheProcedure()
+{
+    QFETCH(int, afterStep);
+    FakeServiceTools tools;
+    tools.setQueryOutput(FakeServiceTools::running);
+    ModalDriver driver;
+    WindowFixture fixture;
+    QList<Step> steps;
+    recordSteps(fixture, steps);
+    QTRY_COMPARE(steps.size(), afterStep);
+    fixture.window->close();
+    QVERIFY(!fixture.timer("autoConnectTimer")->isActive());
+    QCOMPARE(fixture.window->connectionState(), ConnectionState::Closing);
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QVERIFY(fixture.window->findChild<QProgressDialog *>() == nullptr);
+    QVERIFY2(driver.finished(), driver.problems());
 }
 
 void TestServiceStart::cancelDuringTheLastRetryComesTooLate()

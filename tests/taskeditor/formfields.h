@@ -58,4 +58,32 @@ inline QLabel *labelAt(const Scheduler::MCsDynamicFormWidget &form, int row)
     return qobject_cast<QLabel *>(rows(form)->itemAt(row, QFormLayout::LabelRole)->widget());
 }
 
+inline const QString typeId = QStringLiteral("task_type.screen_record");
+
+/// A form of the fields, built with the parameter text.
+class BuiltForm : public Scheduler::MCsDynamicFormWidget {
+public:
+    explicit BuiltForm(const QList<Scheduler::TaskFieldInfo> &fields, const QString &parameters = {},
+                       QWidget *parent = nullptr)
+        : MCsDynamicFormWidget(parent)
+    {
+        setTaskTypes({taskType(typeId, fields)});
+        isBuilt = buildForTaskType(typeId, parameters);
+    }
+
+    bool isBuilt = false;
+};
+
+inline const QList<Scheduler::TaskFieldInfo> &fieldOfEveryKind()
+{
+    static const QList<Scheduler::TaskFieldInfo> fields{
+        field(R"({"key": "i", "type": "int", "label": "I", "min": 1, "max": 60, "defaultValue": "30"})"),
+        field(R"({"key": "d", "type": "double", "label": "D", "min": -5, "max": 5, "defaultValue": "1.5"})"),
+        field(R"({"key": "b", "type": "bool", "label": "B", "defaultValue": "true"})"),
+        field(R"({"key": "s", "type": "select", "label": "S", "options": ["x", "y"], "defaultValue": "y"})"),
+        field(R"({"key": "t", "type": "text", "label": "T", "defaultValue": "some text"})"),
+    };
+    return fields;
+}
+
 } // namespace FormFields

@@ -16,26 +16,12 @@ using namespace FormFields;
 
 namespace {
 
-const QString typeId = u"task_type.audio_record"_s;
-
 const char *const intField = R"({"key": "k", "type": "int", "min": 1, "max": 60, "defaultValue": "30"})";
 const char *const doubleField = R"({"key": "k", "type": "double", "min": -5, "max": 5, "defaultValue": "1.5"})";
 const char *const boolField = R"({"key": "k", "type": "bool", "defaultValue": "true"})";
 const char *const selectField =
     R"({"key": "k", "type": "select", "options": ["MP3", "OGG", "WAV"], "defaultValue": "OGG"})";
 const char *const textField = R"({"key": "k", "type": "text", "defaultValue": "definition"})";
-
-class Form : public MCsDynamicFormWidget {
-public:
-    explicit Form(const QList<TaskFieldInfo> &fields, const QString &parameters = {})
-        : MCsDynamicFormWidget(nullptr)
-    {
-        setTaskTypes({taskType(typeId, fields)});
-        isBuilt = buildForTaskType(typeId, parameters);
-    }
-
-    bool isBuilt = false;
-};
 
 QString jsonText(const QJsonObject &values)
 {
@@ -65,11 +51,11 @@ private slots:
 
 void TestDynamicFormValues::valuesHaveTheTypesOfTheirFields()
 {
-    const Form form({field(R"({"key": "i", "type": "int", "defaultValue": "30"})"),
-                     field(R"({"key": "d", "type": "double", "defaultValue": "1.5"})"),
-                     field(R"({"key": "b", "type": "bool", "defaultValue": "1"})"),
-                     field(R"({"key": "s", "type": "select", "options": ["1", "2"], "defaultValue": "2"})"),
-                     field(R"({"key": "t", "type": "", "defaultValue": "44100"})")});
+    const BuiltForm form({field(R"({"key": "i", "type": "int", "defaultValue": "30"})"),
+                          field(R"({"key": "d", "type": "double", "defaultValue": "1.5"})"),
+                          field(R"({"key": "b", "type": "bool", "defaultValue": "1"})"),
+                          field(R"({"key": "s", "type": "select", "options": ["1", "2"], "defaultValue": "2"})"),
+                          field(R"({"key": "t", "type": "", "defaultValue": "44100"})")});
     QCOMPARE(jsonText(form.collectValues()), uR"({"b":true,"d":1.5,"i":30,"s":"2","t":"44100"})"_s);
 }
 
@@ -77,8 +63,8 @@ void TestDynamicFormValues::numbersStayNumbersWhateverTheirSource()
 {
     for (const QString &parameters : {u"{\"k\": \"12\"}"_s, u"{\"k\": 12}"_s, u"{\"k\": \"many\"}"_s,
                                       u"{\"k\": null}"_s, u"{\"k\": \"nan\"}"_s, u"{\"k\": \"inf\"}"_s}) {
-        QVERIFY(Form({field(intField)}, parameters).collectValues().value("k"_L1).isDouble());
-        const QJsonObject values = Form({field(doubleField)}, parameters).collectValues();
+        QVERIFY(BuiltForm({field(intField)}, parameters).collectValues().value("k"_L1).isDouble());
+        const QJsonObject values = BuiltForm({field(doubleField)}, parameters).collectValues();
         // Neither infinite nor undefined numbers survive in JSON.
         QVERIFY(QJsonDocument::fromJson(QJsonDocument(values).toJson()).object().value("k"_L1).isDouble());
     }
@@ -86,7 +72,7 @@ void TestDynamicFormValues::numbersStayNumbersWhateverTheirSource()
 
 void TestDynamicFormValues::textIsTrimmed()
 {
-    const Form form({field(textField)});
+    const BuiltForm form({field(textField)});
     widgetAt<QLineEdit>(form, 0)->setText(u" \t two words  "_s);
     QCOMPARE(form.collectValues().value("k"_L1).toString(), u"two words"_s);
     widgetAt<QLineEdit>(form, 0)->setText(u"   "_s);
@@ -95,14 +81,14 @@ void TestDynamicFormValues::textIsTrimmed()
 
 void TestDynamicFormValues::selectWithoutOptionsGivesAnEmptyText()
 {
-    const Form form({field(R"({"key": "k", "type": "select"})")});
+    const BuiltForm form({field(R"({"key": "k", "type": "select"})")});
     QCOMPARE(jsonText(form.collectValues()), uR"({"k":""})"_s);
 }
 
 void TestDynamicFormValues::shownValuesAreCollected()
 {
-    const Form form({field(intField), field(R"({"key": "b", "type": "bool"})"),
-                     field(R"({"key": "s", "type": "select", "options": ["x", " y "]})")});
+    const BuiltForm form({field(intField), field(R"({"key": "b", "type": "bool"})"),
+                          field(R"({"key": "s", "type": "select", "options": ["x", " y "]})")});
     widgetAt<QSpinBox>(form, 0)->setValue(59);
     widgetAt<QCheckBox>(form, 1)->setChecked(true);
     widgetAt<QComboBox>(form, 2)->setCurrentIndex(1);
@@ -149,14 +135,14 @@ void TestDynamicFormValues::storedValueIsApplied()
     QFETCH(const QByteArray, info);
     QFETCH(const QByteArray, stored);
     QFETCH(const QByteArray, shown);
-    Form form({field(info.constData())});
+    BuiltForm form({field(info.constData())});
     form.applyValues(object("{\"k\": " + stored + "}"), {});
     QCOMPARE(form.collectValues(), object("{\"k\": " + shown + "}"));
 }
 
 void TestDynamicFormValues::unknownKeysAreIgnored()
 {
-    Form form({field(intField)});
+    BuiltForm form({field(intField)});
     form.applyValues(object(R"({"K": 5, "other": "x", "": 7})"), {});
     QCOMPARE(jsonText(form.collectValues()), uR"({"k":30})"_s);
     form.applyValues({}, {});
@@ -165,7 +151,7 @@ void TestDynamicFormValues::unknownKeysAreIgnored()
 
 void TestDynamicFormValues::excludedKeysKeepTheirValue()
 {
-    Form form({field(intField), field(R"({"key": "t"})")});
+    BuiltForm form({field(intField), field(R"({"key": "t"})")});
     const QJsonObject values = object(R"({"k": 5, "t": "stored"})");
     form.applyValues(values, {u"k"_s, u"t"_s, u"other"_s});
     QCOMPARE(jsonText(form.collectValues()), uR"({"k":30,"t":""})"_s);
@@ -180,10 +166,10 @@ void TestDynamicFormValues::valuesSurviveTheRoundTrip()
         field(R"({"key": "b", "type": "bool"})"), field(R"({"key": "s", "type": "select", "options": ["x", "y"]})"),
         field(R"({"key": "t"})")};
     const QJsonObject values = object(R"({"i": -7, "d": 0.01, "b": true, "s": "y", "t": "50 % \u00e4 \"<>\""})");
-    Form first(fields);
+    BuiltForm first(fields);
     first.applyValues(values, {});
     QCOMPARE(first.collectValues(), values);
-    Form second(fields);
+    BuiltForm second(fields);
     second.applyValues(first.collectValues(), {});
     QCOMPARE(second.collectValues(), values);
 }
@@ -230,10 +216,10 @@ void TestDynamicFormValues::precedenceOfTheSources()
     QFETCH(const QByteArray, storedTask);
     QFETCH(const QByteArray, created);
     QFETCH(const QByteArray, edited);
-    Form newTask({field(info.constData())}, parameters);
+    BuiltForm newTask({field(info.constData())}, parameters);
     newTask.applyValues(object(lastUsed.constData()), parseProgramParameters(parameters).keys());
     QCOMPARE(newTask.collectValues(), object("{\"k\": " + created + "}"));
-    Form oldTask({field(info.constData())}, parameters);
+    BuiltForm oldTask({field(info.constData())}, parameters);
     oldTask.applyValues(object(storedTask.constData()), {});
     QCOMPARE(oldTask.collectValues(), object("{\"k\": " + edited + "}"));
 }
@@ -241,10 +227,10 @@ void TestDynamicFormValues::precedenceOfTheSources()
 void TestDynamicFormValues::storedTaskSurvivesAChangeOfTheDefinition()
 {
     const QJsonObject stored = object(R"({"kept": 7, "gone": "x", "format": "FLAC"})");
-    Form form({field(R"({"key": "kept", "type": "int", "defaultValue": "1"})"),
-               field(R"({"key": "new", "type": "int", "defaultValue": "2"})"),
-               field(R"({"key": "format", "type": "select", "options": ["MP3", "OGG"]})")},
-              uR"({"kept": 9, "format": "OGG"})"_s);
+    BuiltForm form({field(R"({"key": "kept", "type": "int", "defaultValue": "1"})"),
+                    field(R"({"key": "new", "type": "int", "defaultValue": "2"})"),
+                    field(R"({"key": "format", "type": "select", "options": ["MP3", "OGG"]})")},
+                   uR"({"kept": 9, "format": "OGG"})"_s);
     form.applyValues(stored, {});
     QCOMPARE(jsonText(form.collectValues()), uR"({"format":"OGG","kept":7,"new":2})"_s);
 }

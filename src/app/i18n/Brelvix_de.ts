@@ -301,6 +301,26 @@
         <translation>Die Aufgabe konnte nicht gestartet werden.</translation>
     </message>
     <message>
+        <source>Please select a group to edit.</source>
+        <translation>Bitte wählen Sie die Gruppe aus, die bearbeitet werden soll.</translation>
+    </message>
+    <message>
+        <source>Cannot Edit</source>
+        <translation>Bearbeiten nicht möglich</translation>
+    </message>
+    <message>
+        <source>The &apos;Ungrouped&apos; group cannot be edited.</source>
+        <translation>Die Gruppe „Nicht gruppiert“ kann nicht bearbeitet werden.</translation>
+    </message>
+    <message>
+        <source>Select Type</source>
+        <translation>Typ auswählen</translation>
+    </message>
+    <message>
+        <source>Please select a specific task type from the filter before creating a group.</source>
+        <translation>Bitte wählen Sie im Filter einen bestimmten Aufgabentyp aus, bevor Sie eine Gruppe erstellen.</translation>
+    </message>
+    <message>
         <source>Please select a group to delete.</source>
         <translation>Bitte wählen Sie die Gruppe aus, die gelöscht werden soll.</translation>
     </message>
@@ -535,26 +555,6 @@ Die Anwendung wird jetzt beendet.</translation>
     <message>
         <source>Enabled</source>
         <translation>Aktiviert</translation>
-    </message>
-    <message>
-        <source>Please select a group to edit.</source>
-        <translation>Bitte wählen Sie die Gruppe aus, die bearbeitet werden soll.</translation>
-    </message>
-    <message>
-        <source>Cannot Edit</source>
-        <translation>Bearbeiten nicht möglich</translation>
-    </message>
-    <message>
-        <source>The &apos;Ungrouped&apos; group cannot be edited.</source>
-        <translation>Die Gruppe „Nicht gruppiert“ kann nicht bearbeitet werden.</translation>
-    </message>
-    <message>
-        <source>Select Type</source>
-        <translation>Typ auswählen</translation>
-    </message>
-    <message>
-        <source>Please select a specific task type from the filter before creating a group.</source>
-        <translation>Bitte wählen Sie im Filter einen bestimmten Aufgabentyp aus, bevor Sie eine Gruppe erstellen.</translation>
     </message>
 </context>
 <context>
