@@ -232,6 +232,16 @@ void TestStartup::debugTextBesideTheExecutableTurnsDebugEntriesOn()
         return log.lines(u"Main"_s);
     };
     QVERIFY(!QFile::exists(mark));
+    // Looked at once: a file that comes later changes nothing.
+    const auto later = [&mark] {
+        const LogCapture log;
+        startLogging();
+        QFile late(mark);
+        const bool made = late.open(QIODevice::WriteOnly);
+        MCsLogger::instance().debug(u"Main"_s, u"d"_s);
+        return made && late.remove() ? log.lines(u"Main"_s) : QStringList{u"no file"_s};
+    };
+    QCOMPARE(later(), QStringList());
     QCOMPARE(entries(), QStringList({u"INFO i"_s}));
     QFile file(mark);
     QVERIFY(file.open(QIODevice::WriteOnly));

@@ -23,6 +23,7 @@ private slots:
     void theStepsAreLogged();
     void germanReplacesTheTexts();
     void aLanguageWithoutACatalogueIsEnglish();
+    void aMissingTranslationIsEnglish();
     void anEarlierLanguageLeavesNoTrace();
     void arabicMirrorsTheWholeFrame();
 };
@@ -100,6 +101,14 @@ void TestLanguage::aLanguageWithoutACatalogueIsEnglish()
     fixture.open(u"task_type.test"_s, u"nl"_s);
     QCOMPARE(fixture.widget<QLabel>("logLabel")->text(), u"Activity Log:"_s);
     QCOMPARE(fixture.status(), u"Disconnected"_s);
+}
+
+void TestLanguage::aMissingTranslationIsEnglish()
+{
+    WindowFixture fixture;
+    fixture.open(u"task_type.test"_s, u"de"_s);
+    QCOMPARE(MCsMainWindow::tr("A text of no catalogue"), u"A text of no catalogue"_s);
+    QCOMPARE(fixture.status(), u"Getrennt"_s);
 }
 
 void TestLanguage::anEarlierLanguageLeavesNoTrace()
