@@ -272,6 +272,7 @@ void MCsIPCConnection::onRequestTimeout()
     const auto entry = std::find(m_requestTimers.cbegin(), m_requestTimers.cend(), timer);
     if (entry == m_requestTimers.cend())
         return;
+    // NOLINTNEXTLINE(performance-unnecessary-copy-initialization): the key goes with its entry
     const QString requestId = entry.key();
     MCsLogger::instance().warn(logSource(), u"Request timed out: %1"_s.arg(requestId));
     m_requestTimers.erase(entry);
