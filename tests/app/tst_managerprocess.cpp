@@ -11,6 +11,9 @@
 
 using namespace Qt::StringLiterals;
 
+/// Programs that start beside other tests, perhaps under a sanitizer, may take their time.
+#define QTRY_VERIFY_PATIENT(condition) QTRY_VERIFY_WITH_TIMEOUT(condition, 30000)
+
 namespace {
 
 /// The log file of the manager processes, which share this test's directories.
@@ -131,9 +134,9 @@ void TestManagerProcess::malformedOptionsEndWithAMessage()
 void TestManagerProcess::aManagerFindsTheDaemonAndLogsIt()
 {
     const Program daemon(DAEMON_PROGRAM, {});
-    QTRY_VERIFY(daemonAnswers());
+    QTRY_VERIFY_PATIENT(daemonAnswers());
     Program manager(MANAGER_PROGRAM, managerArguments(u"task_type.screen_record"_s));
-    QTRY_VERIFY(logText().contains(u"Connected and registered as task_type.screen_record"_s));
+    QTRY_VERIFY_PATIENT(logText().contains(u"Connected and registered as task_type.screen_record"_s));
     const QStringList lines = logText().split(u'\n', Qt::SkipEmptyParts);
     QStringList messages;
     for (const QString &line : lines) {
@@ -157,13 +160,13 @@ void TestManagerProcess::aManagerFindsTheDaemonAndLogsIt()
 void TestManagerProcess::twoManagersOfDifferentTypesRunSideBySide()
 {
     const Program daemon(DAEMON_PROGRAM, {});
-    QTRY_VERIFY(daemonAnswers());
+    QTRY_VERIFY_PATIENT(daemonAnswers());
     const Program first(MANAGER_PROGRAM, managerArguments(u"task_type.screen_record"_s));
     const Program second(MANAGER_PROGRAM, managerArguments(u"task_type.audio_record"_s));
-    QTRY_VERIFY(logText().contains(u"Connected and registered as task_type.screen_record"_s));
-    QTRY_VERIFY(logText().contains(u"Connected and registered as task_type.audio_record"_s));
+    QTRY_VERIFY_PATIENT(logText().contains(u"Connected and registered as task_type.screen_record"_s));
+    QTRY_VERIFY_PATIENT(logText().contains(u"Connected and registered as task_type.audio_record"_s));
     const Program third(MANAGER_PROGRAM, managerArguments(u"task_type.audio_record"_s));
-    QTRY_VERIFY(logText().contains(u"Another client of type 'task_type.audio_record' is already connected"_s));
+    QTRY_VERIFY_PATIENT(logText().contains(u"Another client of type 'task_type.audio_record' is already connected"_s));
     QVERIFY(first.running());
     QVERIFY(second.running());
 }
@@ -171,13 +174,13 @@ void TestManagerProcess::twoManagersOfDifferentTypesRunSideBySide()
 void TestManagerProcess::aManagerOutlivesTheDaemonAndFindsItsSuccessor()
 {
     auto daemon = std::make_unique<Program>(DAEMON_PROGRAM, QStringList());
-    QTRY_VERIFY(daemonAnswers());
+    QTRY_VERIFY_PATIENT(daemonAnswers());
     const Program manager(MANAGER_PROGRAM, managerArguments(u"task_type.test"_s));
-    QTRY_VERIFY(logText().contains(u"Connected and registered as task_type.test"_s));
+    QTRY_VERIFY_PATIENT(logText().contains(u"Connected and registered as task_type.test"_s));
     daemon.reset(); // killed
-    QTRY_VERIFY(logText().contains(u"[WARN] Connection lost, attempting to reconnect..."_s));
+    QTRY_VERIFY_PATIENT(logText().contains(u"[WARN] Connection lost, attempting to reconnect..."_s));
     daemon = std::make_unique<Program>(DAEMON_PROGRAM, QStringList());
-    QTRY_VERIFY_WITH_TIMEOUT(logText().contains(u"Reconnected successfully"_s), 10000);
+    QTRY_VERIFY_PATIENT(logText().contains(u"Reconnected successfully"_s));
     QVERIFY(manager.running());
 }
 

@@ -78,7 +78,7 @@ bool WindowFixture::connectWindow(const QString &taskType)
         return window->connectionState() == Scheduler::ConnectionState::Connected &&
                daemon.commands().contains(u"task.countByType"_s);
     };
-    return QTest::qWaitFor(settled, 5000); // UNAVOIDABLE: waits for a condition
+    return QTest::qWaitFor(settled, 15000); // UNAVOIDABLE: waits for a condition
 }
 
 void WindowFixture::close()
