@@ -2,6 +2,7 @@
 
 #include "mcslogger.h"
 #include "mcsschedulerclient.h"
+#include "messagebox.h"
 
 #include <QColor>
 #include <QColorDialog>
@@ -12,7 +13,6 @@
 #include <QJsonObject>
 #include <QLabel>
 #include <QLineEdit>
-#include <QMessageBox>
 #include <QPushButton>
 #include <QRegularExpression>
 #include <QSpinBox>
@@ -41,15 +41,6 @@ QString styleSheetColor(const QString &text)
     QString color = text;
     color.remove(u' ').remove(u'\t');
     return shape.match(color).hasMatch() && QColor::isValidColorName(text) ? color : QString();
-}
-
-/// On the heap, because the parent may be destroyed while the box is up and takes the box along.
-void showMessage(QWidget *parent, QMessageBox::Icon icon, const QString &title, const QString &text)
-{
-    const QPointer<QMessageBox> box = new QMessageBox(icon, title, text, QMessageBox::Ok, parent);
-    box->setTextFormat(Qt::PlainText);
-    box->exec();
-    delete box;
 }
 
 void showValidationError(QWidget *parent, const QString &text)
