@@ -169,6 +169,7 @@ private:
 
     // Commands
     [[nodiscard]] std::optional<QString> newGroupTaskType();
+    void showTaskDialog(const QString &taskId, const QString &groupId);
     void showGroupDialog(const QString &groupId);
 
     // Activity log
@@ -196,6 +197,7 @@ private:
     QTimer *m_auditRefreshTimer = nullptr;
     QString currentGroupId;
     QString m_programParametersJson;
+    bool m_openingDialog = false;    ///< a dialog reads from the daemon and is not up yet; a second one must not open
     bool m_updatingStatuses = false; ///< a one-second update waits for its answer
     quint64 m_tableRefresh = 0;      ///< number of the newest table refresh; an older one's answer is stale
     quint64 m_treeRefresh = 0;       ///< the same for the tree

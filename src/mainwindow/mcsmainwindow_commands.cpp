@@ -2,11 +2,13 @@
 
 #include "mcsgroupdialog.h"
 #include "mcsschedulerclient.h"
+#include "mcstaskdialog.h"
 #include "messagebox.h"
 #include "tasktexts.h"
 #include "tasktypes.h"
 #include "ui_mcsmainwindow.h"
 
+#include <QScopedValueRollback>
 #include <QTimer>
 
 #include <optional>
@@ -40,12 +42,50 @@ std::optional<SelectedTask> selectedTask(const QTableWidget &table)
                         status == nullptr ? QString() : status->text()};
 }
 
+/// Runs the dialog and disposes of it. True when it was accepted. It may be destroyed while it is up, along with the
+/// window.
+bool runDialog(QPointer<QDialog> dialog)
+{
+    const bool accepted = dialog->exec() == QDialog::Accepted;
+    if (dialog != nullptr)
+        dialog->deleteLater();
+    return accepted;
+}
+
 } // namespace
 
-// The task editor, which these two will open, is not part of the manager yet.
-void MCsMainWindow::onCreateTask() {}
+void MCsMainWindow::onCreateTask()
+{
+    const QTreeWidgetItem *current = m_ui->groupTree->currentItem();
+    const QString groupId =
+        current == nullptr ? QString() : current->data(0, MCsGroupTreeWidget::GroupIdRole).toString();
+    showTaskDialog(QString(), groupId == "ungrouped"_L1 ? QString() : groupId);
+}
 
-void MCsMainWindow::onEditTask() {}
+void MCsMainWindow::onEditTask()
+{
+    const std::optional<SelectedTask> task = selectedTask(*m_ui->taskTable);
+    if (!task) {
+        showMessage(this, QMessageBox::Warning, tr("No Selection"), tr("Please select a task to edit."));
+        return;
+    }
+    showTaskDialog(task->id, QString());
+}
+
+void MCsMainWindow::showTaskDialog(const QString &taskId, const QString &groupId)
+{
+    if (m_openingDialog)
+        return;
+    MCsTaskDialog *dialog = nullptr;
+    {
+        const QScopedValueRollback opening(m_openingDialog, true);
+        dialog =
+            new MCsTaskDialog(m_client, taskId, m_programName, m_programPath, m_programParametersJson, groupId, this);
+    }
+    const QPointer<MCsMainWindow> self(this);
+    if (runDialog(dialog) && self != nullptr)
+        refreshAll();
+}
 
 void MCsMainWindow::onDeleteTask()
 {
@@ -124,15 +164,19 @@ std::optional<QString> MCsMainWindow::newGroupTaskType()
 
 void MCsMainWindow::showGroupDialog(const QString &groupId)
 {
+    if (m_openingDialog)
+        return;
     // An edited group brings its own type.
     const std::optional<QString> taskType = groupId.isEmpty() ? newGroupTaskType() : QString();
     if (!taskType)
         return;
-    const QPointer<MCsGroupDialog> dialog = new MCsGroupDialog(m_client, groupId, *taskType, this);
-    const int result = dialog->exec();
-    if (dialog != nullptr)
-        dialog->deleteLater();
-    if (result != QDialog::Accepted)
+    MCsGroupDialog *dialog = nullptr;
+    {
+        const QScopedValueRollback opening(m_openingDialog, true);
+        dialog = new MCsGroupDialog(m_client, groupId, *taskType, this);
+    }
+    const QPointer<MCsMainWindow> self(this);
+    if (!runDialog(dialog) || self == nullptr)
         return;
     refreshGroupTree();
     refreshAll();

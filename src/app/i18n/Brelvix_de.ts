@@ -53,6 +53,253 @@
     </message>
 </context>
 <context>
+    <name>MCsTaskDialog</name>
+    <message>
+        <source>Task Status : </source>
+        <translation>Aufgabenstatus : </translation>
+    </message>
+    <message>
+        <source>ON</source>
+        <translation>EIN</translation>
+    </message>
+    <message>
+        <source>📋 Basic Information</source>
+        <translation>📋 Grundangaben</translation>
+    </message>
+    <message>
+        <source>Task Name (*):</source>
+        <translation>Aufgabenname (*):</translation>
+    </message>
+    <message>
+        <source>Program Name (*):</source>
+        <translation>Programmname (*):</translation>
+    </message>
+    <message>
+        <source>Target Program (*):</source>
+        <translation>Zielprogramm (*):</translation>
+    </message>
+    <message>
+        <source>Task Type (*):</source>
+        <translation>Aufgabentyp (*):</translation>
+    </message>
+    <message>
+        <source>Group:</source>
+        <translation>Gruppe:</translation>
+    </message>
+    <message>
+        <source>💾 Output Settings</source>
+        <translation>💾 Ausgabe</translation>
+    </message>
+    <message>
+        <source>Use Default Output</source>
+        <translation>Standardausgabe verwenden</translation>
+    </message>
+    <message>
+        <source>Custom Output</source>
+        <translation>Eigene Ausgabe</translation>
+    </message>
+    <message>
+        <source>Custom Folder:</source>
+        <translation>Eigener Ordner:</translation>
+    </message>
+    <message>
+        <source>Browse...</source>
+        <translation>Durchsuchen...</translation>
+    </message>
+    <message>
+        <source>File Name Pattern:</source>
+        <translation>Dateinamensmuster:</translation>
+    </message>
+    <message>
+        <source>[YYYY-MM-DD][hh-mm-ss]_[TaskName]</source>
+        <translation>[YYYY-MM-DD][hh-mm-ss]_[TaskName]</translation>
+    </message>
+    <message>
+        <source>?</source>
+        <translation>?</translation>
+    </message>
+    <message>
+        <source>🚀 Action Before Auto Start</source>
+        <translation>🚀 Aktion vor dem automatischen Start</translation>
+    </message>
+    <message>
+        <source>Run Program:</source>
+        <translation>Programm ausführen:</translation>
+    </message>
+    <message>
+        <source>Open URL:</source>
+        <translation>URL öffnen:</translation>
+    </message>
+    <message>
+        <source>e.g., https://www.example.com</source>
+        <translation>z. B. https://www.example.com</translation>
+    </message>
+    <message>
+        <source>After completing the above steps, wait for a while for the data or page to load completely :</source>
+        <translation>Nach diesen Schritten eine Weile warten, bis die Daten oder die Seite vollständig geladen sind:</translation>
+    </message>
+    <message>
+        <source>Wait for :</source>
+        <translation>Warten:</translation>
+    </message>
+    <message>
+        <source> seconds</source>
+        <translation> Sekunden</translation>
+    </message>
+    <message>
+        <source>⏰ Start Target Program On</source>
+        <translation>⏰ Zielprogramm starten</translation>
+    </message>
+    <message>
+        <source>📅 Specified Time</source>
+        <translation>📅 Zu fester Zeit</translation>
+    </message>
+    <message>
+        <source>🔁 Every Day</source>
+        <translation>🔁 Jeden Tag</translation>
+    </message>
+    <message>
+        <source>📆 Every Week</source>
+        <translation>📆 Jede Woche</translation>
+    </message>
+    <message>
+        <source>🖥️ Monitor App</source>
+        <translation>🖥️ Programm überwachen</translation>
+    </message>
+    <message>
+        <source>📁 Monitor Folder</source>
+        <translation>📁 Ordner überwachen</translation>
+    </message>
+    <message>
+        <source>Specified Date/Time(*):</source>
+        <translation>Datum/Uhrzeit (*):</translation>
+    </message>
+    <message>
+        <source>Daily Time (HH:MM:SS) *:</source>
+        <translation>Tägliche Uhrzeit (HH:MM:SS) *:</translation>
+    </message>
+    <message>
+        <source>Select Days (*):</source>
+        <translation>Tage auswählen (*):</translation>
+    </message>
+    <message>
+        <source>Mon</source>
+        <translation>Mo</translation>
+    </message>
+    <message>
+        <source>Tue</source>
+        <translation>Di</translation>
+    </message>
+    <message>
+        <source>Wed</source>
+        <translation>Mi</translation>
+    </message>
+    <message>
+        <source>Thu</source>
+        <translation>Do</translation>
+    </message>
+    <message>
+        <source>Fri</source>
+        <translation>Fr</translation>
+    </message>
+    <message>
+        <source>Sat</source>
+        <translation>Sa</translation>
+    </message>
+    <message>
+        <source>Sun</source>
+        <translation>So</translation>
+    </message>
+    <message>
+        <source>Weekly Time (HH:MM:SS) *:</source>
+        <translation>Wöchentliche Uhrzeit (HH:MM:SS) *:</translation>
+    </message>
+    <message>
+        <source>Monitor Program (*):</source>
+        <translation>Überwachtes Programm (*):</translation>
+    </message>
+    <message>
+        <source>Monitor Folder (*):</source>
+        <translation>Überwachter Ordner (*):</translation>
+    </message>
+    <message>
+        <source>File Extensions (*):</source>
+        <translation>Dateiendungen (*):</translation>
+    </message>
+    <message>
+        <source>e.g., .mp4,.avi,.mkv</source>
+        <translation>z. B. .mp4,.avi,.mkv</translation>
+    </message>
+    <message>
+        <source>⏹️ Auto Stop Condition</source>
+        <translation>⏹️ Automatisch beenden</translation>
+    </message>
+    <message>
+        <source>🚫 None</source>
+        <translation>🚫 Keine</translation>
+    </message>
+    <message>
+        <source>⏱️ By Duration</source>
+        <translation>⏱️ Nach Dauer</translation>
+    </message>
+    <message>
+        <source>💾 By File Size</source>
+        <translation>💾 Nach Dateigröße</translation>
+    </message>
+    <message>
+        <source>🕐 At Time</source>
+        <translation>🕐 Zu einer Uhrzeit</translation>
+    </message>
+    <message>
+        <source>Duration (*):</source>
+        <translation>Dauer (*):</translation>
+    </message>
+    <message>
+        <source> minutes</source>
+        <translation> Minuten</translation>
+    </message>
+    <message>
+        <source>Task File(s) Size (*):</source>
+        <translation>Größe der Aufgabendatei(en) (*):</translation>
+    </message>
+    <message>
+        <source> KB</source>
+        <translation> KB</translation>
+    </message>
+    <message>
+        <source>Stop At Time (*):</source>
+        <translation>Ende um (*):</translation>
+    </message>
+    <message>
+        <source>🏁 Action After Auto Stop</source>
+        <translation>🏁 Aktion nach dem automatischen Beenden</translation>
+    </message>
+    <message>
+        <source>❌ Close Program</source>
+        <translation>❌ Programm schließen</translation>
+    </message>
+    <message>
+        <source>🔌 Shutdown Computer</source>
+        <translation>🔌 Computer herunterfahren</translation>
+    </message>
+    <message>
+        <source>🖥️ Display Mode</source>
+        <translation>🖥️ Anzeigemodus</translation>
+    </message>
+    <message>
+        <source>👁️ Show</source>
+        <translation>👁️ Anzeigen</translation>
+    </message>
+    <message>
+        <source>🔽 Minimize</source>
+        <translation>🔽 Minimieren</translation>
+    </message>
+    <message>
+        <source>🙈 Hide</source>
+        <translation>🙈 Ausblenden</translation>
+    </message>
+</context>
+<context>
     <name>QObject</name>
     <message>
         <source>Error</source>
@@ -556,6 +803,10 @@ Die Anwendung wird jetzt beendet.</translation>
         <source>Enabled</source>
         <translation>Aktiviert</translation>
     </message>
+    <message>
+        <source>Please select a task to edit.</source>
+        <translation>Bitte wählen Sie eine Aufgabe zum Bearbeiten aus.</translation>
+    </message>
 </context>
 <context>
     <name>Scheduler::MCsTaskDialog</name>
@@ -574,6 +825,186 @@ Die Anwendung wird jetzt beendet.</translation>
     <message>
         <source>Custom</source>
         <translation>Benutzerdefiniert</translation>
+    </message>
+    <message>
+        <source>Create Task</source>
+        <translation>Aufgabe erstellen</translation>
+    </message>
+    <message>
+        <source>Edit Task</source>
+        <translation>Aufgabe bearbeiten</translation>
+    </message>
+    <message>
+        <source>ON</source>
+        <translation>EIN</translation>
+    </message>
+    <message>
+        <source>OFF</source>
+        <translation>AUS</translation>
+    </message>
+    <message>
+        <source>Select Program</source>
+        <translation>Programm auswählen</translation>
+    </message>
+    <message>
+        <source>Executable Files (*.exe);;All Files (*.*)</source>
+        <translation>Ausführbare Dateien (*.exe);;Alle Dateien (*.*)</translation>
+    </message>
+    <message>
+        <source>Select Program to Monitor</source>
+        <translation>Zu überwachendes Programm auswählen</translation>
+    </message>
+    <message>
+        <source>Select Folder to Monitor</source>
+        <translation>Zu überwachenden Ordner auswählen</translation>
+    </message>
+    <message>
+        <source>Select Output Folder</source>
+        <translation>Ausgabeordner auswählen</translation>
+    </message>
+    <message>
+        <source>File Name Pattern Help</source>
+        <translation>Hilfe zum Dateinamensmuster</translation>
+    </message>
+    <message>
+        <source>Available format variables:
+
+[YYYY-MM-DD] - Date (e.g., 2024-03-15)
+[hh-mm-ss] - Time (e.g., 14-30-45)
+[TaskName] - Task name
+[Counter] - Auto-incrementing counter
+
+Example: [YYYY-MM-DD][hh-mm-ss]_[TaskName]
+Result: 2024-03-15_14-30-45_MyTask.mp4</source>
+        <translation>Verfügbare Platzhalter:
+
+[YYYY-MM-DD] - Datum (z. B. 2024-03-15)
+[hh-mm-ss] - Uhrzeit (z. B. 14-30-45)
+[TaskName] - Name der Aufgabe
+[Counter] - Fortlaufende Nummer
+
+Beispiel: [YYYY-MM-DD][hh-mm-ss]_[TaskName]
+Ergebnis: 2024-03-15_14-30-45_MeineAufgabe.mp4</translation>
+    </message>
+    <message>
+        <source>Ungrouped</source>
+        <translation>Nicht gruppiert</translation>
+    </message>
+    <message>
+        <source>Critical Error!</source>
+        <translation>Schwerer Fehler!</translation>
+    </message>
+    <message>
+        <source>Task type mismatch!</source>
+        <translation>Der Aufgabentyp passt nicht!</translation>
+    </message>
+    <message>
+        <source>Task type not accepted!</source>
+        <translation>Der Aufgabentyp wird nicht akzeptiert!</translation>
+    </message>
+    <message>
+        <source>📋 Basic Info</source>
+        <translation>📋 Grundangaben</translation>
+    </message>
+    <message>
+        <source>⚙️ Program Parameters</source>
+        <translation>⚙️ Programmparameter</translation>
+    </message>
+    <message>
+        <source>💾 Output</source>
+        <translation>💾 Ausgabe</translation>
+    </message>
+    <message>
+        <source>🚀 Before Start</source>
+        <translation>🚀 Vor dem Start</translation>
+    </message>
+    <message>
+        <source>⏰ Start Target Program</source>
+        <translation>⏰ Zielprogramm starten</translation>
+    </message>
+    <message>
+        <source>⏹️ Auto Stop</source>
+        <translation>⏹️ Auto-Stopp</translation>
+    </message>
+    <message>
+        <source>🏁 After Stop</source>
+        <translation>🏁 Nach dem Ende</translation>
+    </message>
+    <message>
+        <source>🖥️ Display</source>
+        <translation>🖥️ Anzeige</translation>
+    </message>
+    <message>
+        <source>Connection Error</source>
+        <translation>Verbindungsfehler</translation>
+    </message>
+    <message>
+        <source>Not connected to daemon. Please connect first.</source>
+        <translation>Keine Verbindung zum Dienst. Bitte stellen Sie zuerst eine Verbindung her.</translation>
+    </message>
+    <message>
+        <source>Success</source>
+        <translation>Erfolg</translation>
+    </message>
+    <message>
+        <source>Task created successfully.</source>
+        <translation>Die Aufgabe wurde erstellt.</translation>
+    </message>
+    <message>
+        <source>Task updated successfully.</source>
+        <translation>Die Aufgabe wurde aktualisiert.</translation>
+    </message>
+    <message>
+        <source>Error</source>
+        <translation>Fehler</translation>
+    </message>
+    <message>
+        <source>Failed to save task. reason : </source>
+        <translation>Die Aufgabe konnte nicht gespeichert werden. Grund: </translation>
+    </message>
+    <message>
+        <source>Task name is required.</source>
+        <translation>Der Aufgabenname ist erforderlich.</translation>
+    </message>
+    <message>
+        <source>Program name is required.</source>
+        <translation>Der Programmname ist erforderlich.</translation>
+    </message>
+    <message>
+        <source>Target program is required.</source>
+        <translation>Das Zielprogramm ist erforderlich.</translation>
+    </message>
+    <message>
+        <source>Task type is required.</source>
+        <translation>Der Aufgabentyp ist erforderlich.</translation>
+    </message>
+    <message>
+        <source>Specified date/time must be in the future.</source>
+        <translation>Datum und Uhrzeit müssen in der Zukunft liegen.</translation>
+    </message>
+    <message>
+        <source>At least one weekday must be selected for EveryWeek mode.</source>
+        <translation>Für „Jede Woche“ muss mindestens ein Wochentag ausgewählt sein.</translation>
+    </message>
+    <message>
+        <source>Monitor program is required for monitorApp mode.</source>
+        <translation>Für „Programm überwachen“ ist ein überwachtes Programm erforderlich.</translation>
+    </message>
+    <message>
+        <source>Monitor folder path is required for monitorFolder mode.</source>
+        <translation>Für „Ordner überwachen“ ist ein überwachter Ordner erforderlich.</translation>
+    </message>
+    <message>
+        <source>File extensions are required for monitorFolder mode.</source>
+        <translation>Für „Ordner überwachen“ sind Dateiendungen erforderlich.</translation>
+    </message>
+    <message>
+        <source>Stop time must be in the future.</source>
+        <translation>Das Ende muss in der Zukunft liegen.</translation>
+    </message>
+    <message>
+        <source>Validation Error</source>
+        <translation>Eingabefehler</translation>
     </message>
 </context>
 <context>
