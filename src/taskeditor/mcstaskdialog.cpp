@@ -68,9 +68,9 @@ MCsTaskDialog::~MCsTaskDialog() = default;
 
 void MCsTaskDialog::createWidgets()
 {
+    setStyleSheet(taskDialogStyleSheet()); // before there are children, which would all be styled a second time
     m_ui->setupUi(this);
     setWindowTitle(m_taskId.isEmpty() ? tr("Create Task") : tr("Edit Task"));
-    setStyleSheet(taskDialogStyleSheet());
     resize(1000, 700);
 }
 
@@ -182,6 +182,7 @@ void MCsTaskDialog::finishSetup()
     // Not offered, but a stored task may be in one of these modes, and keeps it.
     for (QRadioButton *radio : {m_ui->stopModeAtTime, m_ui->startModeMonitorApp, m_ui->startModeMonitorFolder})
         radio->hide();
+    m_ui->nameEdit->setFocus();
 }
 
 void MCsTaskDialog::onStartRecordingModeChanged()
