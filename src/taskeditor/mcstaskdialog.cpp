@@ -5,6 +5,7 @@
 #include "mcsschedulerclient.h"
 #include "plaintooltip.h"
 #include "stylesheets.h"
+#include "taskmodes.h"
 #include "ui_mcstaskdialog.h"
 #include "widgetstyles.h"
 
@@ -188,19 +189,19 @@ void MCsTaskDialog::finishSetup()
 void MCsTaskDialog::onStartRecordingModeChanged()
 {
     const QString mode = startRecordingMode();
-    m_ui->specifiedTimeWidget->setVisible(mode == "SpecifiedTime"_L1);
-    m_ui->everyDayWidget->setVisible(mode == "EveryDay"_L1);
-    m_ui->everyWeekWidget->setVisible(mode == "EveryWeek"_L1);
-    m_ui->monitorAppWidget->setVisible(mode == "monitorApp"_L1);
-    m_ui->monitorFolderWidget->setVisible(mode == "monitorFolder"_L1);
+    m_ui->specifiedTimeWidget->setVisible(mode == TaskModes::specifiedTime);
+    m_ui->everyDayWidget->setVisible(mode == TaskModes::everyDay);
+    m_ui->everyWeekWidget->setVisible(mode == TaskModes::everyWeek);
+    m_ui->monitorAppWidget->setVisible(mode == TaskModes::monitorApp);
+    m_ui->monitorFolderWidget->setVisible(mode == TaskModes::monitorFolder);
 }
 
 void MCsTaskDialog::onAutoStopModeChanged()
 {
     const QString mode = autoStopMode();
-    m_ui->byDurationWidget->setVisible(mode == "ByDuration"_L1);
-    m_ui->byFileSizeWidget->setVisible(mode == "ByFileSize"_L1);
-    m_ui->atTimeWidget->setVisible(mode == "AtTime"_L1);
+    m_ui->byDurationWidget->setVisible(mode == TaskModes::byDuration);
+    m_ui->byFileSizeWidget->setVisible(mode == TaskModes::byFileSize);
+    m_ui->atTimeWidget->setVisible(mode == TaskModes::atTime);
 }
 
 // The other radio enables the panel by itself.

@@ -31,7 +31,8 @@ class MCsSchedulerClient;
 /// refreshes its views. Whatever goes wrong with the daemon, the dialog stays open with all input.
 ///
 /// The host's program name and path always replace the stored ones. Daemon calls run an event loop, the constructor's
-/// too: the dialog must outlive its constructor, but may be closed or destroyed during a save.
+/// too: the dialog must outlive its constructor, but may be closed or destroyed during a save. The client may go before
+/// the dialog, but not while it waits for an answer.
 class MCsTaskDialog : public QDialog {
     Q_OBJECT
     Q_DISABLE_COPY_MOVE(MCsTaskDialog)

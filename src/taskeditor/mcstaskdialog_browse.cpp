@@ -9,22 +9,34 @@ namespace Scheduler {
 
 namespace {
 
-// Each dialog runs an event loop in which the edit may go, and a cancelled dialog leaves it as it is.
-void takePath(const QPointer<QLineEdit> &target, const QString &path)
+/// Takes over the chosen path; a cancelled dialog changes nothing.
+///
+/// The file dialog lives on the heap, which QFileDialog's static functions do not offer: the task dialog may be
+/// destroyed while it is up, and takes it and the edit along.
+void browse(const QPointer<QFileDialog> &dialog, QLineEdit *target)
 {
-    if (target != nullptr && !path.isEmpty())
-        target->setText(path);
+    const bool accepted = dialog->exec() == QDialog::Accepted;
+    if (dialog == nullptr)
+        return;
+    const QStringList chosen = dialog->selectedFiles();
+    delete dialog;
+    if (accepted && !chosen.isEmpty() && !chosen.first().isEmpty())
+        target->setText(chosen.first());
 }
 
-void browseFile(QWidget *parent, const QPointer<QLineEdit> &target, const QString &title, const QString &filter)
+void browseFile(QWidget *parent, QLineEdit *target, const QString &title, const QString &filter)
 {
-    takePath(target, QFileDialog::getOpenFileName(parent, title, QString(), filter));
+    auto *dialog = new QFileDialog(parent, title, QString(), filter);
+    dialog->setFileMode(QFileDialog::ExistingFile);
+    browse(dialog, target);
 }
 
-void browseFolder(QWidget *parent, const QPointer<QLineEdit> &target, const QString &title)
+void browseFolder(QWidget *parent, QLineEdit *target, const QString &title)
 {
-    takePath(target, QFileDialog::getExistingDirectory(parent, title, QString(),
-                                                       QFileDialog::ShowDirsOnly | QFileDialog::DontResolveSymlinks));
+    auto *dialog = new QFileDialog(parent, title);
+    dialog->setFileMode(QFileDialog::Directory);
+    dialog->setOptions(QFileDialog::ShowDirsOnly | QFileDialog::DontResolveSymlinks);
+    browse(dialog, target);
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 
 #include "mcsdynamicformwidget.h"
 #include "mcsfilesizespinbox.h"
+#include "taskmodes.h"
 #include "ui_mcstaskdialog.h"
 
 #include <QJsonArray>
@@ -78,33 +79,33 @@ int minutesOf(int seconds)
 
 QList<MCsTaskDialog::ModeRadio> MCsTaskDialog::startModes() const
 {
-    return {{"SpecifiedTime"_L1, m_ui->startModeSpecifiedTime},
-            {"EveryDay"_L1, m_ui->startModeEveryDay},
-            {"EveryWeek"_L1, m_ui->startModeEveryWeek},
-            {"monitorApp"_L1, m_ui->startModeMonitorApp},
-            {"monitorFolder"_L1, m_ui->startModeMonitorFolder}};
+    return {{TaskModes::specifiedTime, m_ui->startModeSpecifiedTime},
+            {TaskModes::everyDay, m_ui->startModeEveryDay},
+            {TaskModes::everyWeek, m_ui->startModeEveryWeek},
+            {TaskModes::monitorApp, m_ui->startModeMonitorApp},
+            {TaskModes::monitorFolder, m_ui->startModeMonitorFolder}};
 }
 
 QList<MCsTaskDialog::ModeRadio> MCsTaskDialog::stopModes() const
 {
-    return {{"None"_L1, m_ui->stopModeNone},
-            {"ByDuration"_L1, m_ui->stopModeByDuration},
-            {"ByFileSize"_L1, m_ui->stopModeByFileSize},
-            {"AtTime"_L1, m_ui->stopModeAtTime}};
+    return {{TaskModes::none, m_ui->stopModeNone},
+            {TaskModes::byDuration, m_ui->stopModeByDuration},
+            {TaskModes::byFileSize, m_ui->stopModeByFileSize},
+            {TaskModes::atTime, m_ui->stopModeAtTime}};
 }
 
 QList<MCsTaskDialog::ModeRadio> MCsTaskDialog::afterStopActions() const
 {
-    return {{"None"_L1, m_ui->afterActionNone},
-            {"CloseProgram"_L1, m_ui->afterActionCloseProgram},
-            {"ShutdownComputer"_L1, m_ui->afterActionShutdown}};
+    return {{TaskModes::none, m_ui->afterActionNone},
+            {TaskModes::closeProgram, m_ui->afterActionCloseProgram},
+            {TaskModes::shutdownComputer, m_ui->afterActionShutdown}};
 }
 
 QList<MCsTaskDialog::ModeRadio> MCsTaskDialog::displayModes() const
 {
-    return {{"Show"_L1, m_ui->displayModeShow},
-            {"Minimize"_L1, m_ui->displayModeMinimize},
-            {"Hide"_L1, m_ui->displayModeHide}};
+    return {{TaskModes::show, m_ui->displayModeShow},
+            {TaskModes::minimize, m_ui->displayModeMinimize},
+            {TaskModes::hide, m_ui->displayModeHide}};
 }
 
 QString MCsTaskDialog::startRecordingMode() const
@@ -169,7 +170,7 @@ QJsonObject MCsTaskDialog::collectParams() const
         params.insert("actionBeforeAutoStart"_L1, actionBefore);
     params.insert("autoStopCondition"_L1, collectAutoStop());
     const QString action = afterStopAction();
-    if (action != "None"_L1)
+    if (action != TaskModes::none)
         params.insert("actionAfterAutoStop"_L1, QJsonObject{{u"action"_s, action}});
     params.insert("outputSettings"_L1, collectOutput());
     params.insert("displayMode"_L1, displayMode());
@@ -183,16 +184,16 @@ QJsonObject MCsTaskDialog::collectStart() const
 {
     const QString mode = startRecordingMode();
     QJsonObject start{{u"mode"_s, mode}};
-    if (mode == "SpecifiedTime"_L1) {
+    if (mode == TaskModes::specifiedTime) {
         start.insert("specifiedDateTime"_L1, m_ui->specifiedDateTimeEdit->dateTime().toString(Qt::ISODate));
-    } else if (mode == "EveryDay"_L1) {
+    } else if (mode == TaskModes::everyDay) {
         start.insert("dailyTime"_L1, m_ui->dailyTimeEdit->time().toString(timeFormat));
-    } else if (mode == "EveryWeek"_L1) {
+    } else if (mode == TaskModes::everyWeek) {
         start.insert("weeklyDays"_L1, collectWeekdays());
         start.insert("weeklyTime"_L1, m_ui->weeklyTimeEdit->time().toString(timeFormat));
-    } else if (mode == "monitorApp"_L1) {
+    } else if (mode == TaskModes::monitorApp) {
         insertText(start, u"monitorProgram"_s, m_ui->monitorProgramEdit);
-    } else if (mode == "monitorFolder"_L1) {
+    } else if (mode == TaskModes::monitorFolder) {
         insertText(start, u"monitorFolderPath"_s, m_ui->monitorFolderPathEdit);
         insertText(start, u"monitorFileExtensions"_s, m_ui->monitorFileExtensionsEdit);
     }
@@ -223,11 +224,11 @@ QJsonObject MCsTaskDialog::collectAutoStop() const
 {
     const QString mode = autoStopMode();
     QJsonObject stop{{u"mode"_s, mode}};
-    if (mode == "ByDuration"_L1)
+    if (mode == TaskModes::byDuration)
         stop.insert("durationSeconds"_L1, m_ui->durationMinutesSpin->value() * 60);
-    else if (mode == "ByFileSize"_L1)
+    else if (mode == TaskModes::byFileSize)
         stop.insert("fileSizeBytes"_L1, static_cast<double>(m_fileSizeSpin->bytes()));
-    else if (mode == "AtTime"_L1)
+    else if (mode == TaskModes::atTime)
         stop.insert("stopAtTime"_L1, m_ui->stopAtTimeEdit->dateTime().toString(Qt::ISODate));
     return stop;
 }
@@ -235,8 +236,8 @@ QJsonObject MCsTaskDialog::collectAutoStop() const
 QJsonObject MCsTaskDialog::collectOutput() const
 {
     if (!m_ui->useCustomOutputRadio->isChecked())
-        return {{u"mode"_s, u"UseDefault"_s}};
-    QJsonObject output{{u"mode"_s, u"Custom"_s}};
+        return {{u"mode"_s, TaskModes::useDefaultOutput}};
+    QJsonObject output{{u"mode"_s, TaskModes::customOutput}};
     insertText(output, u"customFolder"_s, m_ui->customFolderEdit);
     insertText(output, u"customFileNamePattern"_s, m_ui->customFileNamePatternEdit);
     return output;
@@ -266,15 +267,15 @@ void MCsTaskDialog::loadStart(const QJsonObject &start)
 {
     const QString mode = start.value("mode"_L1).toString();
     setStartRecordingMode(mode);
-    if (mode == "SpecifiedTime"_L1) {
+    if (mode == TaskModes::specifiedTime) {
         loadDateTime(m_ui->specifiedDateTimeEdit, start.value("specifiedDateTime"_L1));
-    } else if (mode == "EveryDay"_L1) {
+    } else if (mode == TaskModes::everyDay) {
         loadTime(m_ui->dailyTimeEdit, start.value("dailyTime"_L1));
-    } else if (mode == "EveryWeek"_L1) {
+    } else if (mode == TaskModes::everyWeek) {
         loadWeekly(start);
-    } else if (mode == "monitorApp"_L1) {
+    } else if (mode == TaskModes::monitorApp) {
         loadText(m_ui->monitorProgramEdit, start, u"monitorProgram"_s);
-    } else if (mode == "monitorFolder"_L1) {
+    } else if (mode == TaskModes::monitorFolder) {
         loadText(m_ui->monitorFolderPathEdit, start, u"monitorFolderPath"_s);
         loadText(m_ui->monitorFileExtensionsEdit, start, u"monitorFileExtensions"_s);
     }
@@ -302,19 +303,19 @@ void MCsTaskDialog::loadAutoStop(const QJsonObject &stop)
 {
     const QString mode = stop.value("mode"_L1).toString();
     setAutoStopMode(mode);
-    if (mode == "ByDuration"_L1 && stop.contains("durationSeconds"_L1)) {
+    if (mode == TaskModes::byDuration && stop.contains("durationSeconds"_L1)) {
         m_ui->durationMinutesSpin->setValue(minutesOf(stop.value("durationSeconds"_L1).toInt()));
-    } else if (mode == "ByFileSize"_L1 && stop.contains("fileSizeBytes"_L1)) {
+    } else if (mode == TaskModes::byFileSize && stop.contains("fileSizeBytes"_L1)) {
         const double size = stop.value("fileSizeBytes"_L1).toDouble(0.0);
         m_fileSizeSpin->setBytes(static_cast<qint64>(std::clamp(size, 0.0, maxFileSize)));
-    } else if (mode == "AtTime"_L1 && stop.contains("stopAtTime"_L1)) {
+    } else if (mode == TaskModes::atTime && stop.contains("stopAtTime"_L1)) {
         loadDateTime(m_ui->stopAtTimeEdit, stop.value("stopAtTime"_L1));
     }
 }
 
 void MCsTaskDialog::loadOutput(const QJsonObject &output)
 {
-    if (output.value("mode"_L1).toString() != "Custom"_L1) {
+    if (output.value("mode"_L1).toString() != TaskModes::customOutput) {
         m_ui->useDefaultOutputRadio->setChecked(true);
         return;
     }

@@ -1,11 +1,10 @@
 #include "mcstaskdialog.h"
 
 #include "messagebox.h"
+#include "taskmodes.h"
 #include "ui_mcstaskdialog.h"
 
 #include <algorithm>
-
-using namespace Qt::StringLiterals;
 
 namespace Scheduler {
 
@@ -46,13 +45,13 @@ bool MCsTaskDialog::validateBasics()
 bool MCsTaskDialog::validateStart()
 {
     const QString mode = startRecordingMode();
-    if (mode == "SpecifiedTime"_L1 && !isInFuture(m_ui->specifiedDateTimeEdit))
+    if (mode == TaskModes::specifiedTime && !isInFuture(m_ui->specifiedDateTimeEdit))
         return reportFault(tr("Specified date/time must be in the future."), m_ui->specifiedDateTimeEdit);
-    if (mode == "EveryWeek"_L1 && std::ranges::none_of(m_weekdayChecks, &QCheckBox::isChecked))
+    if (mode == TaskModes::everyWeek && std::ranges::none_of(m_weekdayChecks, &QCheckBox::isChecked))
         return reportFault(tr("At least one weekday must be selected for EveryWeek mode."));
-    if (mode == "monitorApp"_L1 && isBlank(m_ui->monitorProgramEdit))
+    if (mode == TaskModes::monitorApp && isBlank(m_ui->monitorProgramEdit))
         return reportFault(tr("Monitor program is required for monitorApp mode."), m_ui->monitorProgramEdit);
-    if (mode != "monitorFolder"_L1)
+    if (mode != TaskModes::monitorFolder)
         return true;
     if (isBlank(m_ui->monitorFolderPathEdit))
         return reportFault(tr("Monitor folder path is required for monitorFolder mode."), m_ui->monitorFolderPathEdit);
@@ -63,7 +62,7 @@ bool MCsTaskDialog::validateStart()
 
 bool MCsTaskDialog::validateStop()
 {
-    if (autoStopMode() == "AtTime"_L1 && !isInFuture(m_ui->stopAtTimeEdit))
+    if (autoStopMode() == TaskModes::atTime && !isInFuture(m_ui->stopAtTimeEdit))
         return reportFault(tr("Stop time must be in the future."), m_ui->stopAtTimeEdit);
     return true;
 }
