@@ -22,10 +22,11 @@ void MCsMainWindow::refreshAuditLog()
     }
     const quint64 losses = m_losses;
     m_ui->logView->clear();
-    const QList<AuditLogEntry> newestFirst = m_client->getAuditLogs(shownEntries, false, QDateTime(), QDateTime());
+    QList<AuditLogEntry> newestFirst = m_client->getAuditLogs(shownEntries, false, QDateTime(), QDateTime());
     if (losses != m_losses)
         return;             // the next connection has filled the view, or will
     m_ui->logView->clear(); // of what another refresh wrote while this one waited
+    newestFirst.resize(qMin<qsizetype>(newestFirst.size(), shownEntries)); // whatever the daemon makes of the limit
     for (auto entry = newestFirst.crbegin(); entry != newestFirst.crend(); ++entry)
         m_ui->logView->append(formatAuditEntry(*entry));
 }

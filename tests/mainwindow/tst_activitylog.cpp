@@ -39,6 +39,7 @@ private slots:
     void theNewestHundredAreAskedForByType_data();
     void theNewestHundredAreAskedForByType();
     void ofAHundredAndOneEntriesTheOldestIsNotShown();
+    void ofADaemonThatIgnoresTheLimitTheNewestHundredAreShown();
     void theOldestStandsAtTheTop();
     void twoRefreshesInARowShowTheSameLines();
     void aRefreshShowsWhatTheDaemonHasNow();
@@ -83,6 +84,19 @@ void TestActivityLog::ofAHundredAndOneEntriesTheOldestIsNotShown()
     QCOMPARE(fixture.lines().size(), 100);
     QVERIFY(fixture.lines().first().contains(u"'entry 2'"_s));
     QVERIFY(fixture.lines().last().contains(u"'entry 101'"_s));
+}
+
+void TestActivityLog::ofADaemonThatIgnoresTheLimitTheNewestHundredAreShown()
+{
+    LogWindow fixture;
+    QVERIFY(fixture.connect());
+    for (int i = 1; i <= 250; ++i)
+        fixture.happen(u"task.updated"_s, u"entry %1"_s.arg(i));
+    fixture.daemon.answer(u"audit.list"_s, {{u"logs"_s, toArray(fixture.entries)}});
+    fixture.refresh();
+    QCOMPARE(fixture.lines().size(), 100);
+    QVERIFY(fixture.lines().first().contains(u"'entry 151'"_s));
+    QVERIFY(fixture.lines().last().contains(u"'entry 250'"_s));
 }
 
 void TestActivityLog::theOldestStandsAtTheTop()
