@@ -298,6 +298,18 @@
         <source>🙈 Hide</source>
         <translation>🙈 Ausblenden</translation>
     </message>
+    <message>
+        <source>Task</source>
+        <translation>Aufgabe</translation>
+    </message>
+    <message>
+        <source>yyyy-MM-dd HH:mm:ss</source>
+        <translation>yyyy-MM-dd HH:mm:ss</translation>
+    </message>
+    <message>
+        <source>HH:mm:ss</source>
+        <translation>HH:mm:ss</translation>
+    </message>
 </context>
 <context>
     <name>QObject</name>
@@ -807,6 +819,202 @@ Die Anwendung wird jetzt beendet.</translation>
         <source>Please select a task to edit.</source>
         <translation>Bitte wählen Sie eine Aufgabe zum Bearbeiten aus.</translation>
     </message>
+    <message>
+        <source>[INFO] Already connected</source>
+        <translation>[INFO] Bereits verbunden</translation>
+    </message>
+    <message>
+        <source>[INFO] Connected to scheduler service</source>
+        <translation>[INFO] Mit dem Planungsdienst verbunden</translation>
+    </message>
+    <message>
+        <source>[INFO] Reconnected to scheduler service</source>
+        <translation>[INFO] Erneut mit dem Planungsdienst verbunden</translation>
+    </message>
+    <message>
+        <source>[INFO] Disconnected from scheduler service</source>
+        <translation>[INFO] Verbindung zum Planungsdienst getrennt</translation>
+    </message>
+    <message>
+        <source>[INFO] Not connected</source>
+        <translation>[INFO] Nicht verbunden</translation>
+    </message>
+    <message>
+        <source>[ERROR] Failed to connect to scheduler service</source>
+        <translation>[ERROR] Verbindung zum Planungsdienst konnte nicht hergestellt werden</translation>
+    </message>
+    <message>
+        <source>[ERROR] Connection to scheduler service lost</source>
+        <translation>[ERROR] Verbindung zum Planungsdienst unterbrochen</translation>
+    </message>
+    <message>
+        <source>[ERROR] Failed to reconnect to scheduler service</source>
+        <translation>[ERROR] Verbindung zum Planungsdienst konnte nicht wiederhergestellt werden</translation>
+    </message>
+    <message>
+        <source>[ERROR] Not connected to scheduler service</source>
+        <translation>[ERROR] Nicht mit dem Planungsdienst verbunden</translation>
+    </message>
+    <message>
+        <source>[INFO] Scheduler service started</source>
+        <translation>[INFO] Planungsdienst gestartet</translation>
+    </message>
+    <message>
+        <source>[INFO] Waiting for scheduler service to start</source>
+        <translation>[INFO] Warten auf den Start des Planungsdienstes</translation>
+    </message>
+    <message>
+        <source>[ERROR] Failed to start scheduler service</source>
+        <translation>[ERROR] Planungsdienst konnte nicht gestartet werden</translation>
+    </message>
+    <message>
+        <source>[ERROR] Scheduler service is not installed</source>
+        <translation>[ERROR] Planungsdienst ist nicht installiert</translation>
+    </message>
+    <message>
+        <source>[INFO] Task list refreshed</source>
+        <translation>[INFO] Aufgabenliste aktualisiert</translation>
+    </message>
+    <message>
+        <source>[ERROR] Failed to refresh task list</source>
+        <translation>[ERROR] Aufgabenliste konnte nicht aktualisiert werden</translation>
+    </message>
+    <message>
+        <source>[INFO] Task created: %1</source>
+        <translation>[INFO] Aufgabe erstellt: %1</translation>
+    </message>
+    <message>
+        <source>[ERROR] Failed to create task: %1</source>
+        <translation>[ERROR] Aufgabe konnte nicht erstellt werden: %1</translation>
+    </message>
+    <message>
+        <source>[INFO] Task updated: %1</source>
+        <translation>[INFO] Aufgabe geändert: %1</translation>
+    </message>
+    <message>
+        <source>[ERROR] Failed to update task: %1</source>
+        <translation>[ERROR] Aufgabe konnte nicht geändert werden: %1</translation>
+    </message>
+    <message>
+        <source>[INFO] Task deleted: %1</source>
+        <translation>[INFO] Aufgabe gelöscht: %1</translation>
+    </message>
+    <message>
+        <source>[ERROR] Failed to delete task: %1</source>
+        <translation>[ERROR] Aufgabe konnte nicht gelöscht werden: %1</translation>
+    </message>
+    <message>
+        <source>[INFO] Task enabled: %1</source>
+        <translation>[INFO] Aufgabe aktiviert: %1</translation>
+    </message>
+    <message>
+        <source>[ERROR] Failed to enable task: %1</source>
+        <translation>[ERROR] Aufgabe konnte nicht aktiviert werden: %1</translation>
+    </message>
+    <message>
+        <source>[INFO] Task disabled: %1</source>
+        <translation>[INFO] Aufgabe deaktiviert: %1</translation>
+    </message>
+    <message>
+        <source>[ERROR] Failed to disable task: %1</source>
+        <translation>[ERROR] Aufgabe konnte nicht deaktiviert werden: %1</translation>
+    </message>
+    <message>
+        <source>[INFO] Task triggered: %1</source>
+        <translation>[INFO] Aufgabe gestartet: %1</translation>
+    </message>
+    <message>
+        <source>[ERROR] Failed to trigger task: %1</source>
+        <translation>[ERROR] Aufgabe konnte nicht gestartet werden: %1</translation>
+    </message>
+    <message>
+        <source>[INFO] Task moved to group &apos;%1&apos;</source>
+        <translation>[INFO] Aufgabe in die Gruppe „%1“ verschoben</translation>
+    </message>
+    <message>
+        <source>[ERROR] Failed to move task to group &apos;%1&apos;</source>
+        <translation>[ERROR] Aufgabe konnte nicht in die Gruppe „%1“ verschoben werden</translation>
+    </message>
+    <message>
+        <source>[INFO] %1 tasks moved to group &apos;%2&apos;</source>
+        <translation>[INFO] %1 Aufgaben in die Gruppe „%2“ verschoben</translation>
+    </message>
+    <message>
+        <source>[ERROR] Failed to move %1 tasks to group &apos;%2&apos;</source>
+        <translation>[ERROR] %1 Aufgaben konnten nicht in die Gruppe „%2“ verschoben werden</translation>
+    </message>
+    <message>
+        <source>[INFO] Group list refreshed</source>
+        <translation>[INFO] Gruppenliste aktualisiert</translation>
+    </message>
+    <message>
+        <source>[ERROR] Failed to refresh group list</source>
+        <translation>[ERROR] Gruppenliste konnte nicht aktualisiert werden</translation>
+    </message>
+    <message>
+        <source>[INFO] Group created: %1</source>
+        <translation>[INFO] Gruppe erstellt: %1</translation>
+    </message>
+    <message>
+        <source>[ERROR] Failed to create group: %1</source>
+        <translation>[ERROR] Gruppe konnte nicht erstellt werden: %1</translation>
+    </message>
+    <message>
+        <source>[INFO] Group updated: %1</source>
+        <translation>[INFO] Gruppe geändert: %1</translation>
+    </message>
+    <message>
+        <source>[ERROR] Failed to update group: %1</source>
+        <translation>[ERROR] Gruppe konnte nicht geändert werden: %1</translation>
+    </message>
+    <message>
+        <source>[INFO] Group deleted: %1</source>
+        <translation>[INFO] Gruppe gelöscht: %1</translation>
+    </message>
+    <message>
+        <source>[ERROR] Failed to delete group: %1</source>
+        <translation>[ERROR] Gruppe konnte nicht gelöscht werden: %1</translation>
+    </message>
+    <message>
+        <source>[INFO] All tasks in the group enabled</source>
+        <translation>[INFO] Alle Aufgaben der Gruppe aktiviert</translation>
+    </message>
+    <message>
+        <source>[ERROR] Failed to enable all tasks in the group</source>
+        <translation>[ERROR] Die Aufgaben der Gruppe konnten nicht aktiviert werden</translation>
+    </message>
+    <message>
+        <source>[INFO] All tasks in the group disabled</source>
+        <translation>[INFO] Alle Aufgaben der Gruppe deaktiviert</translation>
+    </message>
+    <message>
+        <source>[ERROR] Failed to disable all tasks in the group</source>
+        <translation>[ERROR] Die Aufgaben der Gruppe konnten nicht deaktiviert werden</translation>
+    </message>
+    <message>
+        <source>[INFO] All tasks in the group triggered</source>
+        <translation>[INFO] Alle Aufgaben der Gruppe gestartet</translation>
+    </message>
+    <message>
+        <source>[ERROR] Failed to trigger all tasks in the group</source>
+        <translation>[ERROR] Die Aufgaben der Gruppe konnten nicht gestartet werden</translation>
+    </message>
+    <message>
+        <source>[INFO] All tasks in the group deleted</source>
+        <translation>[INFO] Alle Aufgaben der Gruppe gelöscht</translation>
+    </message>
+    <message>
+        <source>[ERROR] Failed to delete all tasks in the group</source>
+        <translation>[ERROR] Die Aufgaben der Gruppe konnten nicht gelöscht werden</translation>
+    </message>
+    <message>
+        <source>[INFO] Activity log refreshed</source>
+        <translation>[INFO] Aktivitätsprotokoll aktualisiert</translation>
+    </message>
+    <message>
+        <source>[ERROR] Failed to refresh activity log</source>
+        <translation>[ERROR] Aktivitätsprotokoll konnte nicht aktualisiert werden</translation>
+    </message>
 </context>
 <context>
     <name>Scheduler::MCsTaskDialog</name>
@@ -1005,6 +1213,10 @@ Ergebnis: 2024-03-15_14-30-45_MeineAufgabe.mp4</translation>
     <message>
         <source>Validation Error</source>
         <translation>Eingabefehler</translation>
+    </message>
+    <message>
+        <source>Failed to load task.</source>
+        <translation>Die Aufgabe konnte nicht geladen werden.</translation>
     </message>
 </context>
 <context>
