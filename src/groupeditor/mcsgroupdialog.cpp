@@ -3,6 +3,7 @@
 #include "mcslogger.h"
 #include "mcsschedulerclient.h"
 #include "messagebox.h"
+#include "widgetstyles.h"
 
 #include <QColor>
 #include <QColorDialog>
@@ -89,6 +90,7 @@ void MCsGroupDialog::setupForm()
     auto *layout = new QVBoxLayout(this);
     setupFields(layout);
     setupNoteAndButtons(layout);
+    applySpinBoxStyle(this);
 }
 
 void MCsGroupDialog::setupFields(QVBoxLayout *layout)
@@ -127,6 +129,8 @@ void MCsGroupDialog::setupFields(QVBoxLayout *layout)
     m_displayOrderSpin->setRange(0, maxDisplayOrder);
     m_displayOrderSpin->setValue(0);
     m_displayOrderSpin->setToolTip(u"Lower numbers appear first"_s);
+    // The main window's sheet reaches in here, and with a background colour Qt draws the buttons as bevels.
+    m_displayOrderSpin->setStyleSheet(u"background-color: transparent;"_s);
 
     auto *form = new QFormLayout;
     form->addRow(u"Name*:"_s, m_nameEdit);

@@ -16,7 +16,7 @@ ARROWS = {
     "src/plaintext": [],
     "src/style": [],
     "src/taskeditor": ["src/client", "src/plaintext", "src/style"],
-    "src/groupeditor": ["src/client", "src/plaintext"],
+    "src/groupeditor": ["src/client", "src/plaintext", "src/style"],
     "src/mainwindow": ["src/client", "src/taskeditor", "src/groupeditor"],
     "src/app": ["src/mainwindow"],
     "devdaemon": ["src/ipc"],
