@@ -1,8 +1,8 @@
 """Every translation catalogue is complete and agrees with the sources.
 
-Complete: nothing unfinished, retired or empty, every plural form of the language filled, place markers and line breaks
-as in the English text. Agreeing: a catalogue holds the very messages that lupdate finds in src, no more and no fewer.
-The English one holds none, since the source text stands.
+Complete: nothing unfinished, retired or empty, every plural form of the language filled, place markers, line breaks and
+outer blanks as in the English text. Agreeing: a catalogue holds the very messages that lupdate finds in src, no more and
+no fewer, and each context holds as many as it should. The English one holds none, since the source text stands.
 """
 
 import re
@@ -17,6 +17,18 @@ CATALOGUES = Path("src/app/i18n")
 PREFIX = "Brelvix_"
 SOURCE_LANGUAGE = "en"
 PLURAL_FORMS = {"ar": 6, "de": 2, "es": 2, "fr": 2, "it": 2, "ja": 1, "pt_BR": 2, "zh_CN": 1, "zh_TW": 1}
+# How many messages each context holds. A text that is moved to another context loses its translation.
+MESSAGES = {
+    "MCsMainWindow": 12,
+    "MCsTaskDialog": 64,
+    "QObject": 11,
+    "Scheduler::MCsDynamicFormWidget": 7,
+    "Scheduler::MCsMainWindow": 150,
+    "Scheduler::MCsTaskDialog": 46,
+    "Scheduler::MCsTaskTableWidget": 1,
+}
+# Formats that lupdate takes for texts. A date edit would show and accept something else.
+FIXED_TEXTS = {"yyyy-MM-dd HH:mm:ss", "HH:mm:ss"}
 
 # What makes two messages the same one to the translator.
 Key = namedtuple("Key", "context source comment plural")
@@ -53,6 +65,10 @@ def compare_texts(key, text):
         yield f"has other place markers: {text!r}"
     if text.count("\n") != key.source.count("\n"):
         yield f"has other line breaks: {text!r}"
+    if (text[0].isspace(), text[-1].isspace()) != (key.source[0].isspace(), key.source[-1].isspace()):
+        yield f"has other blanks at its ends: {text!r}"
+    if key.source in FIXED_TEXTS and text != key.source:
+        yield f"is a format and must stay: {text!r}"
 
 
 def check_message(key, translation, language):
@@ -116,8 +132,28 @@ def check(root, expected):
     return findings
 
 
+def check_contexts(keys, counts):
+    """Findings about the number of messages in each context."""
+    found = Counter(key.context for key in keys)
+    return [
+        f"{context}: {found[context]} messages in the sources instead of {counts.get(context, 0)}"
+        for context in sorted(found.keys() | counts.keys())
+        if found[context] != counts.get(context, 0)
+    ]
+
+
+def check_languages(root):
+    """Findings about languages without a catalogue."""
+    return [
+        f"{PREFIX}{language}.ts: is missing"
+        for language in sorted({SOURCE_LANGUAGE, *PLURAL_FORMS})
+        if not (root / CATALOGUES / f"{PREFIX}{language}.ts").exists()
+    ]
+
+
 if __name__ == "__main__":
     source_root = Path(sys.argv[1])
-    problems = check(source_root, extract(source_root, sys.argv[2]))
+    source_keys = extract(source_root, sys.argv[2])
+    problems = check_languages(source_root) + check_contexts(source_keys, MESSAGES) + check(source_root, source_keys)
     print("\n".join(problems) or "the catalogues are complete")
     sys.exit(1 if problems else 0)

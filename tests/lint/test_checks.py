@@ -231,6 +231,29 @@ class CataloguesTest(CheckTest):
     def test_a_lost_line_break_is_found(self):
         self.assert_change_found("Erste\n", "Erste ", "line breaks")
 
+    def test_a_blank_at_an_end_is_found(self):
+        self.assert_change_found("Erste\n%2 von %1", "Erste\n%2 von %1 ", "blanks at its ends")
+
+    def test_a_translated_format_is_found(self):
+        self.write("src/a.cpp", SOURCES.replace("First\\n%1 of %2", "HH:mm:ss"))
+        good = GOOD.replace("First\n%1 of %2", "HH:mm:ss").replace("Erste\n%2 von %1", "HH:mm:ss")
+        self.catalogue(good)
+        self.assert_findings(self.findings())
+        self.catalogue(good.replace("<translation>HH:mm:ss", "<translation>HH.mm.ss"))
+        self.assert_findings(self.findings(), "must stay")
+
+    def test_a_text_in_the_wrong_context_is_found(self):
+        keys = check_catalogues.extract(self.root, LUPDATE)
+        self.assert_findings(check_catalogues.check_contexts(keys, {"Scheduler::A": 2}))
+        self.assert_findings(check_catalogues.check_contexts(keys, {"A": 1, "Scheduler::A": 1}), "A: 0", "A: 2")
+
+    def test_a_language_without_a_catalogue_is_found(self):
+        self.catalogue("", "en", "Brelvix_en.ts")
+        for language in check_catalogues.PLURAL_FORMS:
+            if language != "fr":
+                self.catalogue(GOOD, language, f"Brelvix_{language}.ts")
+        self.assert_findings(check_catalogues.check_languages(self.root), "Brelvix_fr.ts: is missing")
+
     def test_a_missing_or_empty_plural_form_is_found(self):
         self.assert_change_found("<numerusform>%n Aufgabe</numerusform>", "", "1 plural forms of 2")
         self.assert_change_found("%n Aufgaben", "", "is empty")

@@ -1,13 +1,15 @@
 #include "logcapture.h"
-#include "resources.h"
+#include "mcstaskdialog.h"
 #include "tasktypes.h"
 #include "testmain.h"
 #include "windowfixture.h"
 
 #include <QApplication>
 #include <QComboBox>
-#include <QFile>
+#include <QDateTimeEdit>
+#include <QLineEdit>
 #include <QTableWidget>
+#include <QTranslator>
 
 using namespace Scheduler;
 using namespace TestSupport;
@@ -19,9 +21,11 @@ class TestLanguage : public QObject {
 private slots:
     void aShortcutSelectsACatalogue_data();
     void aShortcutSelectsACatalogue();
-    void theStepsAreLogged_data();
-    void theStepsAreLogged();
+    void aWindowOpensInTheLanguageOfItsShortcut_data();
+    void aWindowOpensInTheLanguageOfItsShortcut();
     void germanReplacesTheTexts();
+    void italianHasItsOwnFileNamePattern();
+    void datesAndTimesAreNotMirrored();
     void aLanguageWithoutACatalogueIsEnglish();
     void aMissingTranslationIsEnglish();
     void anEarlierLanguageLeavesNoTrace();
@@ -49,38 +53,59 @@ void TestLanguage::aShortcutSelectsACatalogue()
     QTEST(MCsMainWindow::mapLanguageShortcut(row.sliced(1, row.size() - 2)), "code");
 }
 
-void TestLanguage::theStepsAreLogged_data()
+void TestLanguage::aWindowOpensInTheLanguageOfItsShortcut_data()
 {
-    QTest::addColumn<QString>("shortcut");
-    QTest::addColumn<QStringList>("lines");
-    const auto lines = [](const QString &shortcut, const QString &code, bool loaded, const QString &direction) {
-        return QStringList{u"INFO Language shortcut: "_s + shortcut, u"INFO Mapped Qt language: "_s + code,
-                           (loaded ? u"INFO Loaded translation: :/i18n/Brelvix_%1.qm"_s
-                                   : u"WARN Failed to load translation: :/i18n/Brelvix_%1.qm"_s)
-                               .arg(code),
-                           u"INFO LayoutDirection set to "_s + direction};
+    QTest::addColumn<QString>("code");
+    QTest::addColumn<bool>("shipped");
+    const auto row = [](const char *shortcut, const char *code, bool shipped = true) {
+        QTest::addRow("'%s'", shortcut) << QString::fromLatin1(code) << shipped;
     };
-    const QString leftToRight = u"LeftToRight"_s;
-    const auto shipped = [](const QString &code) {
-        registerResources();
-        return QFile::exists(u":/i18n/Brelvix_%1.qm"_s.arg(code));
-    };
-    QTest::newRow("en, an empty catalogue") << u"en"_s << lines(u"en"_s, u"en"_s, true, leftToRight);
-    QTest::newRow("de") << u"de"_s << lines(u"de"_s, u"de"_s, true, leftToRight);
-    QTest::newRow("ko, without a catalogue") << u"ko"_s << lines(u"ko"_s, u"ko"_s, false, leftToRight);
-    QTest::newRow("unknown") << u"xx"_s << lines(u"xx"_s, u"en"_s, true, leftToRight);
-    QTest::newRow("empty") << QString() << lines(QString(), u"en"_s, true, leftToRight);
-    QTest::newRow("ar") << u"ar"_s << lines(u"ar"_s, u"ar"_s, shipped(u"ar"_s), u"RightToLeft"_s);
-    QTest::newRow("AR") << u"AR"_s << lines(u"AR"_s, u"en"_s, true, leftToRight);
+    row("en", "en");
+    row("ja", "ja");
+    row("ko", "ko", false);
+    row("de", "de");
+    row("fr", "fr");
+    row("es", "es");
+    row("it", "it");
+    row("nl", "nl", false);
+    row("ru", "ru", false);
+    row("pl", "pl", false);
+    row("ar", "ar");
+    row("cn", "zh_CN");
+    row("zh", "zh_TW");
+    row("zh_TW", "zh_TW");
+    row("pt", "pt_BR");
+    row("zh_CN", "en");
+    row("pt_BR", "en");
+    row("AR", "en");
+    row("xx", "en");
+    row("", "en");
 }
 
-void TestLanguage::theStepsAreLogged()
+void TestLanguage::aWindowOpensInTheLanguageOfItsShortcut()
 {
-    QFETCH(QString, shortcut);
+    QFETCH(const QString, code);
+    QFETCH(const bool, shipped);
+    const QString row = QString::fromLatin1(QTest::currentDataTag());
+    const QString shortcut = row.sliced(1, row.size() - 2);
+    const QString path = u":/i18n/Brelvix_%1.qm"_s.arg(code);
+    const bool rightToLeft = code == "ar"_L1;
+
     WindowFixture fixture;
     const LogCapture log;
     fixture.open(u"task_type.test"_s, shortcut);
-    QTEST(log.lines(u"MainWindow"_s), "lines");
+    QCOMPARE(log.lines(u"MainWindow"_s),
+             QStringList({u"INFO Language shortcut: "_s + shortcut, u"INFO Mapped Qt language: "_s + code,
+                          (shipped ? u"INFO Loaded translation: "_s : u"WARN Failed to load translation: "_s) + path,
+                          u"INFO LayoutDirection set to "_s + (rightToLeft ? "RightToLeft"_L1 : "LeftToRight"_L1)}));
+    QCOMPARE(QApplication::layoutDirection(), rightToLeft ? Qt::RightToLeft : Qt::LeftToRight);
+
+    QTranslator catalogue;
+    QCOMPARE(catalogue.load(path), shipped);
+    const QString translated = catalogue.translate("MCsMainWindow", "Activity Log:");
+    const bool english = code == "en"_L1 || !shipped;
+    QCOMPARE(translated.isEmpty(), english);
+    QCOMPARE(fixture.widget<QLabel>("logLabel")->text(), english ? u"Activity Log:"_s : translated);
 }
 
 void TestLanguage::germanReplacesTheTexts()
@@ -89,10 +114,32 @@ void TestLanguage::germanReplacesTheTexts()
     fixture.open(u"task_type.screen_record"_s, u"de"_s);
     QCOMPARE(fixture.widget<QLabel>("logLabel")->text(), u"Aktivitätsprotokoll:"_s); // of the form
     QCOMPARE(fixture.status(), u"Getrennt"_s);                                       // of the code
-    QCOMPARE(taskTypeDisplayName(u"task_type.screen_record"_s), u"Bildschirmaufnahme"_s);
+    QCOMPARE(taskTypeDisplayName(u"task_type.screen_record"_s), u"Screenrecorder"_s);
     QCOMPARE(fixture.widget<QComboBox>("typeFilterCombo")->currentText(), u"All Types"_s);
     QCOMPARE(fixture.window->windowTitle(), u"Orvel Task Scheduler - Foo"_s);
     QCOMPARE(QApplication::layoutDirection(), Qt::LeftToRight);
+}
+
+void TestLanguage::italianHasItsOwnFileNamePattern()
+{
+    WindowFixture fixture;
+    fixture.open(u"task_type.test"_s, u"it"_s);
+    const MCsTaskDialog dialog(nullptr, {}, {}, {}, {}, {}, nullptr);
+    QCOMPARE(dialog.findChild<QLineEdit *>("customFileNamePatternEdit"_L1)->text(),
+             u"[YYYY-MM-DD][hh-mm-ss]_[NomeAttività]"_s);
+}
+
+// Mirrored, Qt turns the order of the fields round, and a time reads as seconds, minutes, hours.
+void TestLanguage::datesAndTimesAreNotMirrored()
+{
+    WindowFixture fixture;
+    fixture.open(u"task_type.test"_s, u"ar"_s);
+    const MCsTaskDialog dialog(nullptr, {}, {}, {}, {}, {}, nullptr);
+    QCOMPARE(dialog.layoutDirection(), Qt::RightToLeft);
+    const auto *dateTime = dialog.findChild<QDateTimeEdit *>("specifiedDateTimeEdit"_L1);
+    QCOMPARE(dateTime->text(), dateTime->dateTime().toString(u"yyyy-MM-dd HH:mm:ss"_s));
+    QCOMPARE(dialog.findChild<QTimeEdit *>("dailyTimeEdit"_L1)->text(), u"09:00:00"_s);
+    fixture.open(u"task_type.test"_s, u"en"_s);
 }
 
 void TestLanguage::aLanguageWithoutACatalogueIsEnglish()

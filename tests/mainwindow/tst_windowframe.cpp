@@ -37,6 +37,7 @@ private slots:
     void labelsHaveTheirTexts();
     void buttonsShowAnIconAndNothingElse_data();
     void buttonsShowAnIconAndNothingElse();
+    void buttonsHaveANameForScreenReaders();
     void sizesAreLimited_data();
     void sizesAreLimited();
     void styleRules_data();
@@ -218,6 +219,17 @@ void TestWindowFrame::buttonsShowAnIconAndNothingElse()
     const QImage shown = button->icon().pixmap(QSize(64, 64)).toImage();
     QVERIFY(!shown.isNull());
     QCOMPARE(shown, QIcon(u":/images/%1.png"_s.arg(image)).pixmap(QSize(64, 64)).toImage());
+}
+
+void TestWindowFrame::buttonsHaveANameForScreenReaders()
+{
+    QStringList names;
+    for (const QPushButton *button : m_window->findChildren<QPushButton *>())
+        names.append(button->accessibleName());
+    names.sort();
+    QCOMPARE(names, QStringList({u"Create group"_s, u"Create task"_s, u"Delete group"_s, u"Delete task"_s,
+                                 u"Edit group"_s, u"Edit task"_s, u"Refresh activity log"_s, u"Refresh groups"_s,
+                                 u"Refresh tasks"_s, u"Run task now"_s}));
 }
 
 void TestWindowFrame::sizesAreLimited_data()

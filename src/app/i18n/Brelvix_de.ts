@@ -45,7 +45,7 @@
     </message>
     <message>
         <source>Last Run Status</source>
-        <translation>Letzter Lauf</translation>
+        <translation>Status des letzten Laufs</translation>
     </message>
     <message>
         <source>Activity Log:</source>
@@ -56,7 +56,7 @@
     <name>MCsTaskDialog</name>
     <message>
         <source>Task Status : </source>
-        <translation>Aufgabenstatus : </translation>
+        <translation>Aufgabenstatus: </translation>
     </message>
     <message>
         <source>ON</source>
@@ -132,7 +132,7 @@
     </message>
     <message>
         <source>e.g., https://www.example.com</source>
-        <translation>z. B. https://www.example.com</translation>
+        <translation>z. B. https://www.example.com</translation>
     </message>
     <message>
         <source>After completing the above steps, wait for a while for the data or page to load completely :</source>
@@ -228,11 +228,11 @@
     </message>
     <message>
         <source>e.g., .mp4,.avi,.mkv</source>
-        <translation>z. B. .mp4,.avi,.mkv</translation>
+        <translation>z. B. .mp4,.avi,.mkv</translation>
     </message>
     <message>
         <source>⏹️ Auto Stop Condition</source>
-        <translation>⏹️ Automatisch beenden</translation>
+        <translation>⏹️ Bedingung für automatischen Stopp</translation>
     </message>
     <message>
         <source>🚫 None</source>
@@ -260,7 +260,7 @@
     </message>
     <message>
         <source>Task File(s) Size (*):</source>
-        <translation>Größe der Aufgabendatei(en) (*):</translation>
+        <translation>Größe der Dateien (*):</translation>
     </message>
     <message>
         <source> KB</source>
@@ -268,11 +268,11 @@
     </message>
     <message>
         <source>Stop At Time (*):</source>
-        <translation>Ende um (*):</translation>
+        <translation>Stoppzeit (*):</translation>
     </message>
     <message>
         <source>🏁 Action After Auto Stop</source>
-        <translation>🏁 Aktion nach dem automatischen Beenden</translation>
+        <translation>🏁 Aktion nach dem automatischen Stopp</translation>
     </message>
     <message>
         <source>❌ Close Program</source>
@@ -639,7 +639,7 @@ Die Aufgaben dieser Gruppe werden nach „Nicht gruppiert“ verschoben.</transl
     </message>
     <message>
         <source>connected to deamon failed! (attempt %1 of %2) reason = </source>
-        <translation>Verbindung zum Dienst fehlgeschlagen! (Versuch %1 von %2) Grund = </translation>
+        <translation>Verbindung zum Planungsdienst fehlgeschlagen! (Versuch %1 von %2) Grund = </translation>
     </message>
     <message>
         <source>[WARN] Initial connection failed, attempting to start service...</source>
@@ -721,7 +721,7 @@ Die Anwendung wird jetzt beendet.</translation>
     </message>
     <message>
         <source>Connecting</source>
-        <translation>Verbinden</translation>
+        <translation>Verbindungsaufbau</translation>
     </message>
     <message>
         <source>Cancel</source>
@@ -797,19 +797,19 @@ Die Anwendung wird jetzt beendet.</translation>
     </message>
     <message>
         <source>%1s left</source>
-        <translation>noch %1 s</translation>
+        <translation>In %1 s</translation>
     </message>
     <message>
         <source>%1m %2s left</source>
-        <translation>noch %1 min %2 s</translation>
+        <translation>In %1 min %2 s</translation>
     </message>
     <message>
         <source>%1d %2h left</source>
-        <translation>noch %1 d %2 h</translation>
+        <translation>In %1 d %2 h</translation>
     </message>
     <message>
         <source>%1h %2m left</source>
-        <translation>noch %1 h %2 min</translation>
+        <translation>In %1 h %2 min</translation>
     </message>
     <message>
         <source>Enabled</source>
@@ -817,7 +817,7 @@ Die Anwendung wird jetzt beendet.</translation>
     </message>
     <message>
         <source>Please select a task to edit.</source>
-        <translation>Bitte wählen Sie eine Aufgabe zum Bearbeiten aus.</translation>
+        <translation>Bitte wählen Sie die Aufgabe aus, die bearbeitet werden soll.</translation>
     </message>
     <message>
         <source>[INFO] Already connected</source>
@@ -1024,15 +1024,15 @@ Die Anwendung wird jetzt beendet.</translation>
     </message>
     <message>
         <source>Screen Recorder</source>
-        <translation>Bildschirmaufnahme</translation>
+        <translation>Screenrecorder</translation>
     </message>
     <message>
         <source>Audio Recorder</source>
-        <translation>Audioaufnahme</translation>
+        <translation>Audiorecorder</translation>
     </message>
     <message>
         <source>Custom</source>
-        <translation>Benutzerdefiniert</translation>
+        <translation>Eigener Typ</translation>
     </message>
     <message>
         <source>Create Task</source>
@@ -1086,8 +1086,8 @@ Example: [YYYY-MM-DD][hh-mm-ss]_[TaskName]
 Result: 2024-03-15_14-30-45_MyTask.mp4</source>
         <translation>Verfügbare Platzhalter:
 
-[YYYY-MM-DD] - Datum (z. B. 2024-03-15)
-[hh-mm-ss] - Uhrzeit (z. B. 14-30-45)
+[YYYY-MM-DD] - Datum (z. B. 2024-03-15)
+[hh-mm-ss] - Uhrzeit (z. B. 14-30-45)
 [TaskName] - Name der Aufgabe
 [Counter] - Fortlaufende Nummer
 
@@ -1104,7 +1104,7 @@ Ergebnis: 2024-03-15_14-30-45_MeineAufgabe.mp4</translation>
     </message>
     <message>
         <source>Task type mismatch!</source>
-        <translation>Der Aufgabentyp passt nicht!</translation>
+        <translation>Der Aufgabentyp stimmt nicht überein!</translation>
     </message>
     <message>
         <source>Task type not accepted!</source>
@@ -1136,7 +1136,7 @@ Ergebnis: 2024-03-15_14-30-45_MeineAufgabe.mp4</translation>
     </message>
     <message>
         <source>🏁 After Stop</source>
-        <translation>🏁 Nach dem Ende</translation>
+        <translation>🏁 Nach dem Stopp</translation>
     </message>
     <message>
         <source>🖥️ Display</source>
@@ -1148,7 +1148,7 @@ Ergebnis: 2024-03-15_14-30-45_MeineAufgabe.mp4</translation>
     </message>
     <message>
         <source>Not connected to daemon. Please connect first.</source>
-        <translation>Keine Verbindung zum Dienst. Bitte stellen Sie zuerst eine Verbindung her.</translation>
+        <translation>Keine Verbindung zum Planungsdienst. Bitte stellen Sie zuerst eine Verbindung her.</translation>
     </message>
     <message>
         <source>Success</source>
@@ -1160,7 +1160,7 @@ Ergebnis: 2024-03-15_14-30-45_MeineAufgabe.mp4</translation>
     </message>
     <message>
         <source>Task updated successfully.</source>
-        <translation>Die Aufgabe wurde aktualisiert.</translation>
+        <translation>Die Aufgabe wurde geändert.</translation>
     </message>
     <message>
         <source>Error</source>
@@ -1192,23 +1192,23 @@ Ergebnis: 2024-03-15_14-30-45_MeineAufgabe.mp4</translation>
     </message>
     <message>
         <source>At least one weekday must be selected for EveryWeek mode.</source>
-        <translation>Für „Jede Woche“ muss mindestens ein Wochentag ausgewählt sein.</translation>
+        <translation>Im Modus „Jede Woche“ muss mindestens ein Wochentag ausgewählt sein.</translation>
     </message>
     <message>
         <source>Monitor program is required for monitorApp mode.</source>
-        <translation>Für „Programm überwachen“ ist ein überwachtes Programm erforderlich.</translation>
+        <translation>Im Modus „Programm überwachen“ ist das überwachte Programm erforderlich.</translation>
     </message>
     <message>
         <source>Monitor folder path is required for monitorFolder mode.</source>
-        <translation>Für „Ordner überwachen“ ist ein überwachter Ordner erforderlich.</translation>
+        <translation>Im Modus „Ordner überwachen“ ist der Pfad des überwachten Ordners erforderlich.</translation>
     </message>
     <message>
         <source>File extensions are required for monitorFolder mode.</source>
-        <translation>Für „Ordner überwachen“ sind Dateiendungen erforderlich.</translation>
+        <translation>Im Modus „Ordner überwachen“ sind Dateiendungen erforderlich.</translation>
     </message>
     <message>
         <source>Stop time must be in the future.</source>
-        <translation>Das Ende muss in der Zukunft liegen.</translation>
+        <translation>Die Stoppzeit muss in der Zukunft liegen.</translation>
     </message>
     <message>
         <source>Validation Error</source>
