@@ -19,6 +19,8 @@ private slots:
     void aNewTaskGetsTheCurrentGroup_data();
     void aNewTaskGetsTheCurrentGroup();
     void aNewTaskGetsTheCurrentGroupThoughItIsNotSelected();
+    void aGroupThatIsNotListedIsLookedUpButUngroupedIsNot_data();
+    void aGroupThatIsNotListedIsLookedUpButUngroupedIsNot();
     void anEditedTaskIsTheFirstOfTheSelectedRows();
     void anEditedTaskKeepsItsOwnGroup();
     void anAcceptedDialogIsFollowedByTheRefreshes_data();
@@ -29,6 +31,8 @@ private slots:
     void theDialogBelongsToTheWindowAndGoesAfterwards();
 
 private:
+    /// A new window of this client type.
+    void connectAs(const QString &clientType);
     /// Presses the button, and acts on the dialog that it brings up.
     void visit(const char *button, const QString &title, const std::function<void(MCsTaskDialog *)> &action);
     static void addButtons();
@@ -38,6 +42,12 @@ private:
 
 void TestTaskDialogCommands::init()
 {
+    connectAs(u"task_type.screen_record"_s);
+}
+
+void TestTaskDialogCommands::connectAs(const QString &clientType)
+{
+    m_fixture.reset();
     m_fixture = std::make_unique<CommandFixture>();
     const QJsonObject type{{u"type"_s, u"task_type.screen_record"_s}, {u"name"_s, u"Recorder"_s}};
     m_fixture->daemon.answer(u"tasktype.list"_s, {{u"taskTypes"_s, QJsonArray{type}}});
@@ -45,7 +55,7 @@ void TestTaskDialogCommands::init()
         const QJsonObject task = taskJson(payload.value("taskId"_L1).toString(), u"One"_s, {{u"groupId"_s, u"g1"_s}});
         return QJsonObject{{u"ok"_s, true}, {u"data"_s, QJsonObject{{u"task"_s, task}}}};
     });
-    QVERIFY(m_fixture->connectQuietly());
+    QVERIFY(m_fixture->connectQuietly(clientType));
 }
 
 void TestTaskDialogCommands::cleanup()
@@ -76,7 +86,6 @@ void TestTaskDialogCommands::aNewTaskGetsTheCurrentGroup_data()
     QTest::addColumn<QString>("groupId");
     QTest::newRow("none") << -1 << QString();
     QTest::newRow("a group") << 0 << u"g1"_s;
-    QTest::newRow("ungrouped") << 1 << QString();
 }
 
 void TestTaskDialogCommands::aNewTaskGetsTheCurrentGroup()
@@ -104,6 +113,32 @@ void TestTaskDialogCommands::aNewTaskGetsTheCurrentGroupThoughItIsNotSelected()
         dialog->reject();
     });
     QCOMPARE(groupId, u"g1"_s);
+}
+
+void TestTaskDialogCommands::aGroupThatIsNotListedIsLookedUpButUngroupedIsNot_data()
+{
+    QTest::addColumn<QString>("group");
+    QTest::addColumn<int>("lookUps");
+    // The dialog of all types asks the daemon for a group that it was given and does not list.
+    QTest::newRow("a group") << u"Work"_s << 1;
+    QTest::newRow("ungrouped") << u"Ungrouped"_s << 0;
+}
+
+void TestTaskDialogCommands::aGroupThatIsNotListedIsLookedUpButUngroupedIsNot()
+{
+    QFETCH(QString, group);
+    connectAs(u"task_type.all"_s);
+    const QList<QTreeWidgetItem *> items = m_fixture->tree()->findItems(group, Qt::MatchStartsWith);
+    QCOMPARE(items.size(), 1);
+    m_fixture->selectGroup(m_fixture->tree()->indexOfTopLevelItem(items.first()));
+    m_fixture->daemon.answer(u"group.listByTaskType"_s, {{u"groups"_s, QJsonArray()}});
+    QString groupId = u"none yet"_s;
+    visit("createButton", u"Create Task"_s, [&groupId](MCsTaskDialog *dialog) {
+        groupId = dialog->collectTaskDocument().value("groupId"_L1).toString();
+        dialog->reject();
+    });
+    QCOMPARE(groupId, QString());
+    QTEST(int(m_fixture->daemon.requests(u"group.get"_s).size()), "lookUps");
 }
 
 void TestTaskDialogCommands::anEditedTaskIsTheFirstOfTheSelectedRows()

@@ -1,8 +1,14 @@
 #include "taskdialogfixture.h"
 
+#include "mcsdynamicformwidget.h"
+
+#include <QCheckBox>
+#include <QComboBox>
+#include <QLineEdit>
 #include <QPushButton>
 #include <QRadioButton>
 #include <QSettings>
+#include <QSpinBox>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -12,9 +18,9 @@ namespace TestSupport {
 
 namespace {
 
-void clearSettings()
+QSettings settings()
 {
-    QSettings(QSettings::NativeFormat, QSettings::UserScope, u"Tamrix Laboratory"_s, u"Orvel Task Scheduler"_s).clear();
+    return QSettings(QSettings::NativeFormat, QSettings::UserScope, u"Tamrix Laboratory"_s, u"Orvel Task Scheduler"_s);
 }
 
 void merge(QJsonObject &object, const QJsonObject &changes)
@@ -27,7 +33,9 @@ void merge(QJsonObject &object, const QJsonObject &changes)
 
 void TaskDialogFixture::init()
 {
-    clearSettings();
+    settings().clear();
+    m_programName = u"Recorder"_s;
+    m_programPath = u"/opt/recorder"_s;
     m_daemon = std::make_unique<ScriptedDaemon>();
     QVERIFY(m_daemon->listen());
     m_client = std::make_unique<MCsSchedulerClient>();
@@ -49,7 +57,7 @@ void TaskDialogFixture::cleanup()
     m_dialog.reset();
     m_client.reset();
     m_daemon.reset();
-    clearSettings();
+    settings().clear();
     QCOMPARE(openWindows(), QStringList());
 }
 
@@ -140,6 +148,11 @@ void TaskDialogFixture::saveSuccessfully()
     QCOMPARE(m_dialog->result(), int(QDialog::Accepted));
 }
 
+void TaskDialogFixture::expectFailure(ModalDriver &driver, const QString &reason)
+{
+    driver.expectBox(QMessageBox::Warning, u"Error"_s, u"Failed to save task. reason : "_s + reason);
+}
+
 QJsonObject TaskDialogFixture::sentTask(const QString &cmd) const
 {
     const QList<QJsonObject> requests = m_daemon->requests(cmd);
@@ -153,6 +166,31 @@ void TaskDialogFixture::choose(const char *radio) const
     auto *const found = m_dialog->findChild<QRadioButton *>(QLatin1StringView(radio));
     QVERIFY2(found != nullptr, radio);
     found->setChecked(true);
+}
+
+void TaskDialogFixture::enterEverything() const
+{
+    widget<QLineEdit>("nameEdit")->setText(u"Typed"_s);
+    widget<QComboBox>("groupCombo")->setCurrentIndex(2);
+    choose("startModeEveryWeek");
+    widget<QCheckBox>("weekdayCheckWed")->setChecked(true);
+    choose("stopModeByFileSize");
+    choose("useCustomOutputRadio");
+    widget<QLineEdit>("customFolderEdit")->setText(u"/typed"_s);
+    widget<QLineEdit>("runProgramEdit")->setText(u"/bin/typed"_s);
+    choose("afterActionShutdown");
+    choose("displayModeHide");
+    fps()->setValue(77);
+}
+
+QSpinBox *TaskDialogFixture::fps() const
+{
+    return m_dialog->findChild<MCsDynamicFormWidget *>()->findChild<QSpinBox *>();
+}
+
+QStringList TaskDialogFixture::settingsKeys()
+{
+    return settings().allKeys();
 }
 
 QJsonObject typeJson(const QString &type, const QJsonArray &fields)

@@ -15,6 +15,8 @@
 #include <functional>
 #include <memory>
 
+class QSpinBox;
+
 namespace TestSupport {
 
 /// A task type as the daemon defines it.
@@ -51,6 +53,8 @@ protected:
     void save();
     /// Presses Save and acknowledges the box that tells of the success.
     void saveSuccessfully();
+    /// Save will not succeed, for the reason that the client gives.
+    static void expectFailure(ModalDriver &driver, const QString &reason);
     /// The document of the one request of this command so far; empty when there is none or more than one.
     [[nodiscard]] QJsonObject sentTask(const QString &cmd) const;
 
@@ -60,9 +64,17 @@ protected:
     }
     /// Checks a radio button, a hidden one too.
     void choose(const char *radio) const;
+    /// Leaves no block of the document at its starting value.
+    void enterEverything() const;
+    /// The field of that name; it is the only spin box of its form.
+    [[nodiscard]] QSpinBox *fps() const;
 
-    QString m_programName = QStringLiteral("Recorder");
-    QString m_programPath = QStringLiteral("/opt/recorder");
+    /// Everything in the settings file of the application.
+    [[nodiscard]] static QStringList settingsKeys();
+
+    // The host's; reset before each test.
+    QString m_programName;
+    QString m_programPath;
     std::unique_ptr<ScriptedDaemon> m_daemon;
     std::unique_ptr<Scheduler::MCsSchedulerClient> m_client;
     std::unique_ptr<Scheduler::MCsTaskDialog> m_dialog;

@@ -1,11 +1,9 @@
 #include "formfields.h"
-#include "programparameters.h"
 #include "testmain.h"
 
 #include <QApplication>
 #include <QCheckBox>
 #include <QComboBox>
-#include <QDoubleSpinBox>
 #include <QLineEdit>
 #include <QSpinBox>
 #include <QTest>
@@ -44,8 +42,6 @@ private slots:
     void unknownKeysAreIgnored();
     void excludedKeysKeepTheirValue();
     void valuesSurviveTheRoundTrip();
-    void precedenceOfTheSources_data();
-    void precedenceOfTheSources();
     void storedTaskSurvivesAChangeOfTheDefinition();
 };
 
@@ -172,56 +168,6 @@ void TestDynamicFormValues::valuesSurviveTheRoundTrip()
     BuiltForm second(fields);
     second.applyValues(first.collectValues(), {});
     QCOMPARE(second.collectValues(), values);
-}
-
-void TestDynamicFormValues::precedenceOfTheSources_data()
-{
-    QTest::addColumn<QByteArray>("info");
-    QTest::addColumn<QString>("parameters");
-    QTest::addColumn<QByteArray>("lastUsed");
-    QTest::addColumn<QByteArray>("storedTask");
-    QTest::addColumn<QByteArray>("created"); ///< what a new task shows
-    QTest::addColumn<QByteArray>("edited");  ///< what the stored task shows
-    const auto row = [](const char *name, const char *info, const QString &parameters, const char *lastUsed,
-                        const char *storedTask, const char *created, const char *edited) {
-        QTest::newRow(name) << QByteArray(info) << parameters << QByteArray(lastUsed) << QByteArray(storedTask)
-                            << QByteArray(created) << QByteArray(edited);
-    };
-    row("definition alone", intField, {}, "{}", "{}", "30", "30");
-    row("file over definition", intField, u"{\"k\": 12}"_s, "{}", "{}", "12", "12");
-    row("last used over definition", intField, {}, R"({"k": 7})", "{}", "7", "30");
-    row("file over last used", intField, u"{\"k\": 12}"_s, R"({"k": 7})", "{}", "12", "12");
-    row("stored over definition", intField, {}, "{}", R"({"k": 8})", "30", "8");
-    row("stored over file and last used", intField, u"{\"k\": 12}"_s, R"({"k": 7})", R"({"k": 8})", "12", "8");
-    row("file with other keys", intField, u"{\"other\": 12}"_s, R"({"k": 7})", "{}", "7", "30");
-    row("file names the key with options only", selectField, u"{\"k\": {\"options\": [\"WAV\", \"OGG\"]}}"_s,
-        R"({"k": "WAV"})", R"({"k": "WAV"})", "\"OGG\"", "\"WAV\"");
-    row("file names the key with nothing of use", textField, u"{\"k\": {}}"_s, R"({"k": "last"})", "{}",
-        "\"definition\"", "\"definition\"");
-    row("file empties the default", textField, u"{\"k\": null}"_s, R"({"k": "last"})", "{}", "\"\"", "\"\"");
-    row("malformed file excludes nothing", textField, u"{\"k\": "_s, R"({"k": "last"})", "{}", "\"last\"",
-        "\"definition\"");
-    row("empty options keep the definition's", selectField, u"{\"k\": {\"options\": []}}"_s, "{}", R"({"k": "MP3"})",
-        "\"OGG\"", "\"MP3\"");
-    row("last used option is gone", selectField, {}, R"({"k": "FLAC"})", R"({"k": "FLAC"})", "\"OGG\"", "\"OGG\"");
-    row("bool", boolField, u"{\"k\": false}"_s, R"({"k": true})", R"({"k": true})", "false", "true");
-    row("double", doubleField, {}, R"({"k": 2.5})", R"({"k": -1})", "2.5", "-1");
-}
-
-void TestDynamicFormValues::precedenceOfTheSources()
-{
-    QFETCH(const QByteArray, info);
-    QFETCH(const QString, parameters);
-    QFETCH(const QByteArray, lastUsed);
-    QFETCH(const QByteArray, storedTask);
-    QFETCH(const QByteArray, created);
-    QFETCH(const QByteArray, edited);
-    BuiltForm newTask({field(info.constData())}, parameters);
-    newTask.applyValues(object(lastUsed.constData()), parseProgramParameters(parameters).keys());
-    QCOMPARE(newTask.collectValues(), object("{\"k\": " + created + "}"));
-    BuiltForm oldTask({field(info.constData())}, parameters);
-    oldTask.applyValues(object(storedTask.constData()), {});
-    QCOMPARE(oldTask.collectValues(), object("{\"k\": " + edited + "}"));
 }
 
 void TestDynamicFormValues::storedTaskSurvivesAChangeOfTheDefinition()

@@ -1,6 +1,5 @@
 #include "formfields.h"
 #include "mcslasttaskdefaults.h"
-#include "programparameters.h"
 #include "testmain.h"
 
 #include <QApplication>
@@ -81,7 +80,6 @@ private slots:
     void foreignSettingsAreLeftAlone();
     void identityOfTheApplicationPlaysNoPart();
     void firstTaskShowsDefinitionAndFile();
-    void nextTaskStartsFromTheLastOne();
 };
 
 void TestLastTaskDefaults::init()
@@ -297,21 +295,6 @@ void TestLastTaskDefaults::firstTaskShowsDefinitionAndFile()
     QVERIFY(form.buildForTaskType(screenType, u"{\"b\": 5}"_s));
     QVERIFY(MCsLastTaskDefaults().loadDefaults(screenType).isEmpty());
     QCOMPARE(form.collectValues(), object(R"({"a": 30, "b": 5})"));
-}
-
-void TestLastTaskDefaults::nextTaskStartsFromTheLastOne()
-{
-    const QString parameters = u"{\"b\": {\"options\": [\"x\"]}, \"c\": 5}"_s;
-    const MCsLastTaskDefaults defaults;
-    defaults.saveDefaults(screenType, document(R"({"dynamicParams": {"a": 1, "b": 2, "c": 3, "foreign": 4}})"));
-    MCsDynamicFormWidget form(nullptr);
-    form.setTaskTypes({taskType(screenType, {field(R"({"key": "a", "type": "int", "defaultValue": "30"})"),
-                                             field(R"({"key": "b", "type": "int", "defaultValue": "31"})"),
-                                             field(R"({"key": "c", "type": "int", "defaultValue": "32"})")})});
-    QVERIFY(form.buildForTaskType(screenType, parameters));
-    form.applyValues(defaults.loadDefaults(screenType).value("dynamicParams"_L1).toObject(),
-                     parseProgramParameters(parameters).keys());
-    QCOMPARE(form.collectValues(), object(R"({"a": 1, "b": 31, "c": 5})"));
 }
 
 ORVEL_TEST_MAIN(QApplication, TestLastTaskDefaults)

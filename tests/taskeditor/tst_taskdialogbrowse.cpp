@@ -39,10 +39,14 @@ class TestTaskDialogBrowse : public TaskDialogFixture {
 private slots:
     void dialogAsksForTheRightThing_data();
     void dialogAsksForTheRightThing();
+    void dialogStartsInTheCurrentFolder_data();
+    void dialogStartsInTheCurrentFolder();
     void chosenPathGoesIntoItsEdit_data();
     void chosenPathGoesIntoItsEdit();
     void cancelledDialogChangesNothing_data();
     void cancelledDialogChangesNothing();
+    void taskDialogMayGoUnderIt_data();
+    void taskDialogMayGoUnderIt();
     void linkToAFolderStaysALink_data();
     void linkToAFolderStaysALink();
     void helpExplainsTheFileNamePattern();
@@ -50,7 +54,9 @@ private slots:
 private:
     void addButtons() const;
     /// Opens the task dialog and presses the button of this test's row.
-    void browse(const Browse &expected, const std::function<void(QFileDialog *)> &action);
+    /// Its edits hold this text then.
+    void browse(const Browse &expected, const std::function<void(QFileDialog *)> &action,
+                const QString &before = u"before"_s);
     /// The texts of the four edits that have a button, in a fixed order.
     [[nodiscard]] QStringList paths() const;
 
@@ -71,13 +77,14 @@ void TestTaskDialogBrowse::addButtons() const
                                                u"Select Output Folder"_s, true};
 }
 
-void TestTaskDialogBrowse::browse(const Browse &expected, const std::function<void(QFileDialog *)> &action)
+void TestTaskDialogBrowse::browse(const Browse &expected, const std::function<void(QFileDialog *)> &action,
+                                  const QString &before)
 {
     openForCreate();
     if (!expected.radio.isEmpty())
         choose(qPrintable(expected.radio));
     for (const QString &edit : m_edits)
-        widget<QLineEdit>(qPrintable(edit))->setText(u"before"_s);
+        widget<QLineEdit>(qPrintable(edit))->setText(before);
     ModalDriver driver;
     driver.expectDialog<QFileDialog>(expected.title, action);
     click(m_dialog.get(), QTest::currentDataTag());
@@ -119,6 +126,28 @@ void TestTaskDialogBrowse::dialogAsksForTheRightThing()
         QCOMPARE(filters, (QStringList{u"Executable Files (*.exe)"_s, u"All Files (*.*)"_s}));
 }
 
+void TestTaskDialogBrowse::dialogStartsInTheCurrentFolder_data()
+{
+    addButtons();
+}
+
+void TestTaskDialogBrowse::dialogStartsInTheCurrentFolder()
+{
+    QFETCH(const Browse, expected);
+    const QString elsewhere = m_files.filePath(u"elsewhere"_s);
+    QVERIFY(QDir().mkpath(elsewhere));
+    QString folder;
+    browse(
+        expected,
+        [&folder](QFileDialog *dialog) {
+            folder = dialog->directory().absolutePath();
+            dialog->reject();
+        },
+        elsewhere);
+    QCOMPARE(folder, QDir::currentPath());
+    QCOMPARE(paths(), QStringList(m_edits.size(), elsewhere));
+}
+
 void TestTaskDialogBrowse::chosenPathGoesIntoItsEdit_data()
 {
     addButtons();
@@ -154,6 +183,24 @@ void TestTaskDialogBrowse::cancelledDialogChangesNothing()
         click(require<QDialogButtonBox>(dialog, "buttonBox")->button(QDialogButtonBox::Cancel));
     });
     QCOMPARE(paths(), (QStringList{u"before"_s, u"before"_s, u"before"_s, u"before"_s}));
+}
+
+void TestTaskDialogBrowse::taskDialogMayGoUnderIt_data()
+{
+    addButtons();
+}
+
+void TestTaskDialogBrowse::taskDialogMayGoUnderIt()
+{
+    QFETCH(const Browse, expected);
+    openForCreate();
+    if (!expected.radio.isEmpty())
+        choose(qPrintable(expected.radio));
+    ModalDriver driver;
+    driver.expectDialog<QFileDialog>(expected.title, [this](QFileDialog *) { m_dialog.reset(); });
+    widget<QPushButton>(QTest::currentDataTag())->click();
+    QVERIFY2(driver.finished(), driver.problems());
+    QVERIFY(m_dialog == nullptr);
 }
 
 void TestTaskDialogBrowse::linkToAFolderStaysALink_data()

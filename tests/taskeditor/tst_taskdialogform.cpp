@@ -146,7 +146,6 @@ void TestTaskDialogForm::programNameStandsBesideTheStartHeading()
     QFETCH(const QString, shown);
     m_programName = programName;
     openForCreate();
-    m_programName = u"Recorder"_s;
     ORVEL_REQUIRE_WIDGET(QLabel, label, m_dialog.get(), "m_startProgramName");
     QCOMPARE(label->text(), shown);
     QCOMPARE(label->textFormat(), Qt::PlainText);
@@ -165,7 +164,6 @@ void TestTaskDialogForm::programPathIsAPlainToolTip()
     QFETCH(const QString, path);
     m_programPath = path;
     openForCreate();
-    m_programPath = u"/opt/recorder"_s;
     const QString toolTip = widget<QLineEdit>("programNameEdit")->toolTip();
     QTextDocument shown;
     if (Qt::mightBeRichText(toolTip))

@@ -49,8 +49,9 @@ private slots:
     void formRowHolds();
     void cardBeginsWithItsHeading_data();
     void cardBeginsWithItsHeading();
+    void hintBeforeTheWaitTakesTheWholeRow();
     void cardsFollowEachOtherOnThePage();
-    void nothingStandsInThePlaceholder();
+    void placeholderIsCentredAndEmpty();
     void marginsOfTheInnerRows();
     void spacersPushToTheFront_data();
     void spacersPushToTheFront();
@@ -74,6 +75,8 @@ void TestTaskDialogLayout::layoutHolds_data()
     row("horizontalLayout_2", {u"enabledLayout"_s});
     row("enabledLayout", {u"enabledLabel"_s, u"enabledCheck"_s, u"enabledStatusLabel"_s, u"(space)"_s});
     row("basicGroupVLayout", {u"basicSectionLabel"_s, u"basicFormLayout"_s});
+    row("outputGroupLayout", {u"outputSectionLabel"_s, u"outputModeLayout"_s, u"customOutputWidget"_s});
+    row("outputModeLayout", {u"useDefaultOutputRadio"_s, u"useCustomOutputRadio"_s});
     row("customFolderHLayout", {u"customFolderEdit"_s, u"browseOutputBtn"_s});
     row("fileNamePatternHLayout", {u"customFileNamePatternEdit"_s, u"fileNameHelpBtn"_s});
     row("actionBeforeVLayout", {u"actionBeforeSectionLabel"_s, u"actionBeforeFormLayout"_s, u"horizontalLayout_3"_s});
@@ -171,7 +174,21 @@ void TestTaskDialogLayout::cardBeginsWithItsHeading()
     QCOMPARE(cardLayout->spacing(), 15);
     const QLayout *const line = cardLayout->itemAt(0)->layout();
     QCOMPARE(nameOf(line == nullptr ? cardLayout->itemAt(0) : line->itemAt(0)), heading);
-    QVERIFY(widget<QLabel>(qPrintable(heading))->font().bold());
+    ORVEL_REQUIRE_WIDGET(QLabel, label, m_dialog.get(), qPrintable(heading));
+    QVERIFY(label->font().bold());
+    // Its sheet gives it another size; without one it has its own.
+    label->setStyleSheet({});
+    QVERIFY(label->font().bold());
+    QCOMPARE(label->font().pointSize(), 10);
+}
+
+void TestTaskDialogLayout::hintBeforeTheWaitTakesTheWholeRow()
+{
+    openForCreate();
+    const auto *const form = layout<QFormLayout>("actionBeforeFormLayout");
+    QVERIFY(form != nullptr);
+    QCOMPARE(form->rowCount(), 3);
+    QCOMPARE(nameOf(form->itemAt(2, QFormLayout::SpanningRole)), u"label"_s);
 }
 
 void TestTaskDialogLayout::cardsFollowEachOtherOnThePage()
@@ -188,9 +205,14 @@ void TestTaskDialogLayout::cardsFollowEachOtherOnThePage()
     QCOMPARE(form->parentWidget(), widget<QWidget>("scrollWidget"));
 }
 
-void TestTaskDialogLayout::nothingStandsInThePlaceholder()
+void TestTaskDialogLayout::placeholderIsCentredAndEmpty()
 {
     openForCreate();
+    const auto *const page = layout<QVBoxLayout>("scrollLayout");
+    QVERIFY(page != nullptr);
+    const QLayoutItem *const place = page->itemAt(page->indexOf(widget<QWidget>("dynamicParamsWidget")));
+    QVERIFY(place != nullptr);
+    QCOMPARE(place->alignment(), Qt::Alignment(Qt::AlignCenter));
     QCOMPARE(layout<QLayout>("dynamicParamsLayout")->count(), 0);
 }
 

@@ -50,13 +50,6 @@ private slots:
     void allTypesClientReportsAMismatchOnEveryEdit();
     void unknownTypeIsReportedTwiceAndHasNoForm();
     void taskThatCannotBeReadLeavesABlankForm();
-    void newTaskStartsInTheGivenGroup();
-    void unknownGroupLeavesUngrouped();
-    void groupIdsAreComparedCaseSensitively();
-    void groupOfAnotherTypeSelectsItsType();
-    void groupOfAnotherTypeTakesNoLastValues();
-    void groupWithoutATypeLeavesUngrouped();
-    void groupOfAnUnknownTypeLeavesUngrouped();
     void withoutAConnectionTheDialogOpensBlank();
     void withoutAClientTheDialogOpensBlank();
     void daemonTextsAreShownAsTheyStand();
@@ -187,78 +180,6 @@ void TestTaskDialogLoad::taskThatCannotBeReadLeavesABlankForm()
     QVERIFY(!widget<QCheckBox>("enabledCheck")->isChecked());
 }
 
-void TestTaskDialogLoad::newTaskStartsInTheGivenGroup()
-{
-    openForCreate(u"g2"_s);
-    QCOMPARE(widget<QComboBox>("groupCombo")->currentText(), u"Home"_s);
-    QCOMPARE(m_daemon->requests(u"group.get"_s).size(), 0);
-}
-
-void TestTaskDialogLoad::unknownGroupLeavesUngrouped()
-{
-    ModalDriver driver;
-    openForCreate(u"g7"_s);
-    QVERIFY2(driver.finished(), driver.problems());
-    QCOMPARE(widget<QComboBox>("groupCombo")->currentIndex(), 0);
-    QCOMPARE(m_daemon->requests(u"group.get"_s).size(), 0);
-}
-
-void TestTaskDialogLoad::groupIdsAreComparedCaseSensitively()
-{
-    openForCreate(u"G2"_s);
-    QCOMPARE(widget<QComboBox>("groupCombo")->currentIndex(), 0);
-}
-
-void TestTaskDialogLoad::groupOfAnotherTypeSelectsItsType()
-{
-    setClientType(allTypes);
-    m_daemon->respondWith(u"group.listByTaskType"_s, [](const QJsonObject &payload) -> QJsonObject {
-        const bool audio = payload.value("taskType"_L1).toString() == "task_type.audio_record"_L1;
-        const QJsonObject group = audio ? taskGroupJson(u"a1"_s, u"Sound"_s) : taskGroupJson(u"g1"_s, u"Work"_s);
-        return {{u"ok"_s, true}, {u"data"_s, QJsonObject{{u"groups"_s, QJsonArray{group}}}}};
-    });
-    m_daemon->answer(u"group.get"_s, {{u"group"_s, taskGroupJson(u"a1"_s, u"Sound"_s, u"task_type.audio_record"_s)}});
-    openForCreate(u"a1"_s);
-    QCOMPARE(m_daemon->commands(),
-             QStringList({u"tasktype.list"_s, u"group.listByTaskType"_s, u"group.get"_s, u"group.listByTaskType"_s}));
-    QCOMPARE(widget<QComboBox>("typeCombo")->currentData().toString(), u"task_type.audio_record"_s);
-    QCOMPARE(widget<QComboBox>("groupCombo")->currentData().toString(), u"a1"_s);
-    QCOMPARE(widget<QListWidget>("navList")->count(), 7);
-}
-
-void TestTaskDialogLoad::groupOfAnotherTypeTakesNoLastValues()
-{
-    setClientType(allTypes);
-    answerTypes(
-        {typeJson(u"task_type.audio_record"_s),
-         typeJson(u"task_type.screen_record"_s, {fieldJson(u"fps"_s, u"int"_s, {{u"defaultValue"_s, u"30"_s}})})});
-    MCsLastTaskDefaults().saveDefaults(u"task_type.screen_record"_s,
-                                       FormFields::object(R"({"paramsJson": {"dynamicParams": {"fps": 99}}})"));
-    answerGroups({});
-    m_daemon->answer(u"group.get"_s, {{u"group"_s, taskGroupJson(u"s1"_s, u"Screen"_s, u"task_type.screen_record"_s)}});
-    openForCreate(u"s1"_s);
-    QCOMPARE(widget<QComboBox>("typeCombo")->currentData().toString(), u"task_type.screen_record"_s);
-    QCOMPARE(m_dialog->findChild<MCsDynamicFormWidget *>()->findChild<QSpinBox *>()->value(), 30);
-}
-
-void TestTaskDialogLoad::groupWithoutATypeLeavesUngrouped()
-{
-    setClientType(allTypes);
-    m_daemon->answer(u"group.get"_s, {{u"group"_s, taskGroupJson(u"g7"_s, u"Odd"_s)}});
-    openForCreate(u"g7"_s);
-    QCOMPARE(widget<QComboBox>("groupCombo")->currentIndex(), 0);
-    QCOMPARE(m_daemon->requests(u"group.listByTaskType"_s).size(), 1);
-}
-
-void TestTaskDialogLoad::groupOfAnUnknownTypeLeavesUngrouped()
-{
-    setClientType(allTypes);
-    m_daemon->answer(u"group.get"_s, {{u"group"_s, taskGroupJson(u"g7"_s, u"Odd"_s, u"task_type.other"_s)}});
-    openForCreate(u"g7"_s);
-    QCOMPARE(widget<QComboBox>("typeCombo")->currentIndex(), 0);
-    QCOMPARE(m_daemon->requests(u"group.listByTaskType"_s).size(), 1);
-}
-
 void TestTaskDialogLoad::withoutAConnectionTheDialogOpensBlank()
 {
     m_client->disconnectFromDaemon();
@@ -291,15 +212,21 @@ void TestTaskDialogLoad::connectionLostWhileTheDialogOpens_data()
 {
     QTest::addColumn<QString>("command");
     QTest::addColumn<int>("boxes");
-    QTest::newRow("types") << u"tasktype.list"_s << 0;
-    QTest::newRow("groups") << u"group.listByTaskType"_s << 0;
-    QTest::newRow("task") << u"task.get"_s << 1;
+    QTest::addColumn<QStringList>("types");
+    QTest::addColumn<QStringList>("groups");
+    const QStringList none;
+    const QStringList types{u"Screen Recorder"_s};
+    QTest::newRow("types") << u"tasktype.list"_s << 0 << none << none;
+    QTest::newRow("groups") << u"group.listByTaskType"_s << 0 << types << QStringList{u"Ungrouped"_s};
+    QTest::newRow("task") << u"task.get"_s << 1 << types << QStringList{u"Ungrouped"_s, u"Work"_s, u"Home"_s};
 }
 
 void TestTaskDialogLoad::connectionLostWhileTheDialogOpens()
 {
     QFETCH(const QString, command);
     QFETCH(const int, boxes);
+    QFETCH(const QStringList, types);
+    QFETCH(const QStringList, groups);
     whileWaiting(command, [this] { m_client->disconnectFromDaemon(); });
     ModalDriver driver;
     if (boxes > 0) {
@@ -309,6 +236,10 @@ void TestTaskDialogLoad::connectionLostWhileTheDialogOpens()
     open(u"t1"_s);
     QVERIFY2(driver.finished(), driver.problems());
     QVERIFY(m_dialog->isVisible());
+    QCOMPARE(m_dialog->windowTitle(), u"Edit Task"_s);
+    QCOMPARE(widget<QLineEdit>("nameEdit")->text(), QString());
+    QCOMPARE(texts(widget<QComboBox>("typeCombo")), types);
+    QCOMPARE(texts(widget<QComboBox>("groupCombo")), groups);
 }
 
 ORVEL_TEST_MAIN(QApplication, TestTaskDialogLoad)

@@ -1,38 +1,13 @@
-#include "formfields.h"
-#include "mcsdynamicformwidget.h"
 #include "taskdialogfixture.h"
 #include "testmain.h"
 
 #include <QCheckBox>
-#include <QComboBox>
-#include <QLineEdit>
-#include <QPushButton>
-#include <QSettings>
-#include <QSignalSpy>
-#include <QSpinBox>
 
 using namespace Qt::StringLiterals;
 using namespace Scheduler;
 using namespace TestSupport;
 
-namespace {
-
-const QString screenType = u"task_type.screen_record"_s;
-
-QJsonObject storedValues(const QString &type = screenType)
-{
-    return MCsLastTaskDefaults().loadDefaults(type).value("dynamicParams"_L1).toObject();
-}
-
-QStringList settingsKeys()
-{
-    return QSettings(QSettings::NativeFormat, QSettings::UserScope, u"Tamrix Laboratory"_s, u"Orvel Task Scheduler"_s)
-        .allKeys();
-}
-
-} // namespace
-
-/// Saving, what is remembered of it, and the daemon's troubles during it.
+/// Saving, and what comes of it when it fails.
 class TestTaskDialogSave : public TaskDialogFixture {
     Q_OBJECT
 
@@ -45,50 +20,11 @@ private slots:
     void refusalKeepsTheDialogAndItsInput();
     void answerThatTimesOutKeepsTheDialogAndItsInput();
     void connectionLostBeforeSave();
-    void connectionLostDuringSave();
     void withoutAClientSaveStops();
     void answerWithoutAnIdIsAFailure();
-    void secondPressWhileSavingSendsNothing();
-    void dialogCancelledWhileSavingIsStillAccepted();
-    void dialogCancelledWhileAFailingSaveShowsNoBox();
-    void dialogDestroyedWhileSaving();
-    void dialogDestroyedUnderTheBoxOfSuccess();
     void saveMayBeRepeatedAfterAFailure();
-    void savedValuesAreOfferedToTheNextTask();
-    void parameterFileBeatsTheLastValues();
-    void optionsInTheParameterFileBeatTheLastValuesToo();
-    void malformedParameterFileExcludesNothing();
-    void editTakesNoLastValuesButWritesThem();
     void failedSaveRemembersNothing();
-    void typesRememberApart();
-
-private:
-    void enterEverything();
-    [[nodiscard]] QSpinBox *fps() const
-    {
-        return m_dialog->findChild<MCsDynamicFormWidget *>()->findChild<QSpinBox *>();
-    }
-    void expectFailure(ModalDriver &driver, const QString &reason)
-    {
-        driver.expectBox(QMessageBox::Warning, u"Error"_s, u"Failed to save task. reason : "_s + reason);
-    }
 };
-
-/// Leaves no widget of the document at its starting value.
-void TestTaskDialogSave::enterEverything()
-{
-    widget<QLineEdit>("nameEdit")->setText(u"Typed"_s);
-    widget<QComboBox>("groupCombo")->setCurrentIndex(2);
-    choose("startModeEveryWeek");
-    widget<QCheckBox>("weekdayCheckWed")->setChecked(true);
-    choose("stopModeByFileSize");
-    choose("useCustomOutputRadio");
-    widget<QLineEdit>("customFolderEdit")->setText(u"/typed"_s);
-    widget<QLineEdit>("runProgramEdit")->setText(u"/bin/typed"_s);
-    choose("afterActionShutdown");
-    choose("displayModeHide");
-    fps()->setValue(77);
-}
 
 void TestTaskDialogSave::newTaskIsCreated()
 {
@@ -191,20 +127,6 @@ void TestTaskDialogSave::connectionLostBeforeSave()
     QCOMPARE(m_daemon->commands(), QStringList());
 }
 
-void TestTaskDialogSave::connectionLostDuringSave()
-{
-    openForEdit();
-    enterEverything();
-    const QJsonObject before = m_dialog->collectTaskDocument();
-    whileWaiting(u"task.update"_s, [this] { m_daemon->dropConnections(); });
-    ModalDriver driver;
-    expectFailure(driver, u"TIMEOUT: Request timed out after 2000ms"_s);
-    save();
-    QVERIFY2(driver.finished(), driver.problems());
-    QVERIFY(m_dialog->isVisible());
-    QCOMPARE(m_dialog->collectTaskDocument(), before);
-}
-
 void TestTaskDialogSave::withoutAClientSaveStops()
 {
     openForEdit();
@@ -227,61 +149,6 @@ void TestTaskDialogSave::answerWithoutAnIdIsAFailure()
     QVERIFY(m_dialog->isVisible());
 }
 
-void TestTaskDialogSave::secondPressWhileSavingSendsNothing()
-{
-    openForCreate();
-    enterEverything();
-    whileWaiting(u"task.create"_s, [this] { save(); });
-    saveSuccessfully();
-    QCOMPARE(m_daemon->requests(u"task.create"_s).size(), 1);
-}
-
-void TestTaskDialogSave::dialogCancelledWhileSavingIsStillAccepted()
-{
-    openForCreate();
-    enterEverything();
-    whileWaiting(u"task.create"_s, [this] { click(button(QDialogButtonBox::Cancel)); });
-    saveSuccessfully();
-    QVERIFY(!m_dialog->isVisible());
-}
-
-void TestTaskDialogSave::dialogCancelledWhileAFailingSaveShowsNoBox()
-{
-    m_daemon->refuse(u"task.create"_s, u"X"_s, u"no"_s);
-    openForCreate();
-    enterEverything();
-    whileWaiting(u"task.create"_s, [this] { click(button(QDialogButtonBox::Cancel)); });
-    ModalDriver driver;
-    save();
-    QVERIFY2(driver.finished(), driver.problems());
-    QCOMPARE(m_dialog->result(), int(QDialog::Rejected));
-}
-
-void TestTaskDialogSave::dialogDestroyedWhileSaving()
-{
-    openForCreate();
-    enterEverything();
-    whileWaiting(u"task.create"_s, [this] { m_dialog.reset(); });
-    ModalDriver driver;
-    button(QDialogButtonBox::Save)->click();
-    QVERIFY2(driver.finished(), driver.problems());
-    QVERIFY(m_dialog == nullptr);
-    QCOMPARE(settingsKeys(), QStringList());
-}
-
-void TestTaskDialogSave::dialogDestroyedUnderTheBoxOfSuccess()
-{
-    openForCreate();
-    enterEverything();
-    ModalDriver driver;
-    driver.expectDialog<QMessageBox>(u"Success"_s, [this](QMessageBox *) { m_dialog.reset(); });
-    button(QDialogButtonBox::Save)->click();
-    QVERIFY2(driver.finished(), driver.problems());
-    QVERIFY(m_dialog == nullptr);
-    // It was stored all the same.
-    QCOMPARE(storedValues().value("fps"_L1).toInt(), 77);
-}
-
 void TestTaskDialogSave::saveMayBeRepeatedAfterAFailure()
 {
     m_daemon->refuse(u"task.create"_s, u"X"_s, u"no"_s);
@@ -298,58 +165,6 @@ void TestTaskDialogSave::saveMayBeRepeatedAfterAFailure()
     QCOMPARE(m_daemon->requests(u"task.create"_s).size(), 2);
 }
 
-void TestTaskDialogSave::savedValuesAreOfferedToTheNextTask()
-{
-    openForCreate();
-    QCOMPARE(fps()->value(), 30);
-    enterEverything();
-    saveSuccessfully();
-    openForCreate();
-    QCOMPARE(fps()->value(), 77);
-    // Nothing else comes back.
-    QCOMPARE(widget<QLineEdit>("runProgramEdit")->text(), QString());
-    QCOMPARE(m_dialog->collectTaskDocument().value("paramsJson"_L1).toObject().value("displayMode"_L1).toString(),
-             u"Show"_s);
-    QCOMPARE(widget<QComboBox>("groupCombo")->currentIndex(), 0);
-}
-
-void TestTaskDialogSave::parameterFileBeatsTheLastValues()
-{
-    openForCreate();
-    enterEverything();
-    saveSuccessfully();
-    openForCreate({}, u"{\"fps\": 24, \"other\": 1}"_s);
-    QCOMPARE(fps()->value(), 24);
-}
-
-void TestTaskDialogSave::optionsInTheParameterFileBeatTheLastValuesToo()
-{
-    MCsLastTaskDefaults().saveDefaults(
-        screenType, FormFields::object(R"({"paramsJson": {"dynamicParams": {"fps": 77, "format": "AVI"}}})"));
-    openForCreate({}, u"{\"format\": {\"options\": [\"MKV\", \"AVI\"]}}"_s);
-    QCOMPARE(m_dialog->findChild<MCsDynamicFormWidget *>()->findChild<QComboBox *>()->currentText(), u"MKV"_s);
-    QCOMPARE(fps()->value(), 77);
-}
-
-void TestTaskDialogSave::malformedParameterFileExcludesNothing()
-{
-    MCsLastTaskDefaults().saveDefaults(screenType,
-                                       FormFields::object(R"({"paramsJson": {"dynamicParams": {"fps": 77}}})"));
-    openForCreate({}, u"{\"fps\": 24,"_s);
-    QCOMPARE(fps()->value(), 77);
-}
-
-void TestTaskDialogSave::editTakesNoLastValuesButWritesThem()
-{
-    MCsLastTaskDefaults().saveDefaults(
-        screenType, FormFields::object(R"({"paramsJson": {"dynamicParams": {"fps": 77, "gone": 1}}})"));
-    openForEdit({{u"dynamicParams"_s, QJsonObject{{u"title"_s, u"old"_s}}}});
-    QCOMPARE(fps()->value(), 30);
-    widget<QCheckBox>("enabledCheck")->setChecked(false);
-    saveSuccessfully();
-    QCOMPARE(storedValues(), FormFields::object(R"({"fps": 30, "format": "MP4", "title": "old"})"));
-}
-
 void TestTaskDialogSave::failedSaveRemembersNothing()
 {
     m_daemon->refuse(u"task.create"_s, u"X"_s, u"no"_s);
@@ -360,23 +175,6 @@ void TestTaskDialogSave::failedSaveRemembersNothing()
     save();
     QVERIFY2(driver.finished(), driver.problems());
     QCOMPARE(settingsKeys(), QStringList());
-}
-
-void TestTaskDialogSave::typesRememberApart()
-{
-    openForCreate();
-    enterEverything();
-    saveSuccessfully();
-    setClientType(u"task_type.audio_record"_s);
-    openForCreate();
-    widget<QLineEdit>("nameEdit")->setText(u"Sound"_s);
-    m_daemon->clearRequests();
-    saveSuccessfully();
-    QCOMPARE(storedValues().value("fps"_L1).toInt(), 77);
-    // A type without fields stores no parameters.
-    QVERIFY(!sentTask(u"task.create"_s).value("paramsJson"_L1).toObject().contains("dynamicParams"_L1));
-    QCOMPARE(storedValues(u"task_type.audio_record"_s), QJsonObject());
-    QVERIFY(settingsKeys().contains("LastTaskDefaults/task_type.audio_record/taskFields/displayMode"_L1));
 }
 
 ORVEL_TEST_MAIN(QApplication, TestTaskDialogSave)

@@ -22,7 +22,7 @@ const QString listCommand = u"group.listByTaskType"_s;
 
 } // namespace
 
-/// A user's choice of another task type, and the group in which a new task starts.
+/// A user's choice of another task type.
 class TestTaskDialogTypes : public TaskDialogFixture {
     Q_OBJECT
 
@@ -33,11 +33,10 @@ private slots:
     void changeFromCodeRebuildsNothing();
     void choiceListsTheGroupsOfTheNewType();
     void choiceKeepsTheParametersOfTheHost();
+    void choiceTakesNoLastValues();
     void choiceOfAnUnreachableDaemonStillBuildsTheForm();
     void secondChoiceDuringTheFirstListingWins_data();
     void secondChoiceDuringTheFirstListingWins();
-    void unknownGroupLeavesUngrouped_data();
-    void unknownGroupLeavesUngrouped();
 
 private:
     /// Each type has a group of its own, and one that both have.
@@ -177,6 +176,18 @@ void TestTaskDialogTypes::choiceKeepsTheParametersOfTheHost()
     QCOMPARE(before.value("fps"_L1).toInt(), 77);
 }
 
+void TestTaskDialogTypes::choiceTakesNoLastValues()
+{
+    setClientType(allTypes);
+    MCsLastTaskDefaults().saveDefaults(
+        screen, {{u"paramsJson"_s, QJsonObject{{u"dynamicParams"_s, QJsonObject{{u"fps"_s, 99}}}}}});
+    openForCreate();
+    QCOMPARE(values().value("fps"_L1).toInt(), 99);
+    QTest::keyClick(types(), Qt::Key_Down);
+    QTest::keyClick(types(), Qt::Key_Up);
+    QCOMPARE(values().value("fps"_L1).toInt(), 30);
+}
+
 void TestTaskDialogTypes::choiceOfAnUnreachableDaemonStillBuildsTheForm()
 {
     setClientType(allTypes);
@@ -224,24 +235,6 @@ void TestTaskDialogTypes::secondChoiceDuringTheFirstListingWins()
     QCOMPARE(groups(), (QStringList{u"Ungrouped"_s, u"Both"_s, u"Of "_s + screen}));
     QCOMPARE(widget<QListWidget>("navList")->count(), 8);
     QVERIFY(!values().isEmpty());
-}
-
-void TestTaskDialogTypes::unknownGroupLeavesUngrouped_data()
-{
-    QTest::addColumn<QString>("clientType");
-    QTest::newRow("one type") << screen;
-    QTest::newRow("all types") << allTypes;
-}
-
-void TestTaskDialogTypes::unknownGroupLeavesUngrouped()
-{
-    QFETCH(const QString, clientType);
-    setClientType(clientType);
-    m_daemon->refuse(u"group.get"_s, u"NOT_FOUND"_s, u"no such group"_s);
-    const ModalDriver driver; // reports any box
-    openForCreate(u"unknown"_s);
-    QCOMPARE(widget<QComboBox>("groupCombo")->currentText(), u"Ungrouped"_s);
-    QCOMPARE(m_dialog->collectTaskDocument().value("groupId"_L1).toString(), QString());
 }
 
 ORVEL_TEST_MAIN(QApplication, TestTaskDialogTypes)

@@ -9,8 +9,6 @@
 #include <QScrollArea>
 #include <QScrollBar>
 
-#include <utility>
-
 using namespace Qt::StringLiterals;
 using namespace Scheduler;
 using namespace TestSupport;
@@ -118,11 +116,9 @@ void TestTaskValidation::faultThatNobodyCanMendHereMovesNoFocus()
     QFETCH(const QString, programName);
     QFETCH(const QString, programPath);
     QFETCH(const QString, text);
-    const auto name = std::exchange(m_programName, programName);
-    const auto path = std::exchange(m_programPath, programPath);
+    m_programName = programName;
+    m_programPath = programPath;
     openSound();
-    m_programName = name;
-    m_programPath = path;
     saveFails(text);
     QCOMPARE(focused(), u"enabledCheck"_s);
 }
