@@ -32,6 +32,9 @@ struct TaskInfo {
     static TaskInfo fromJson(const QJsonObject &object);
 };
 
+/// Id of the group under which the daemon lists the tasks that have none. It is no real group.
+inline constexpr QLatin1StringView ungroupedGroupId{"ungrouped"};
+
 /// One group of tasks. An empty id marks a record that was not found; an empty parentId, a top-level group.
 struct GroupInfo {
     QString id;

@@ -130,7 +130,7 @@ void MCsGroupDialog::setupFields(QVBoxLayout *layout)
     m_displayOrderSpin->setValue(0);
     m_displayOrderSpin->setToolTip(u"Lower numbers appear first"_s);
     // The main window's sheet reaches in here, and with a background colour Qt draws the buttons as bevels.
-    m_displayOrderSpin->setStyleSheet(u"background-color: transparent;"_s);
+    m_displayOrderSpin->setStyleSheet(u"QSpinBox { background-color: transparent; }"_s);
 
     auto *form = new QFormLayout;
     form->addRow(u"Name*:"_s, m_nameEdit);
@@ -177,7 +177,7 @@ void MCsGroupDialog::populateParentCombo()
     if (self == nullptr)
         return;
     for (const GroupInfo &group : groups) {
-        if (group.id == m_groupId || group.id == "ungrouped"_L1)
+        if (group.id == m_groupId || group.id == ungroupedGroupId)
             continue;
         m_parentCombo->addItem(group.parentId.isEmpty() ? group.name : u"  → "_s + group.name, group.id);
     }

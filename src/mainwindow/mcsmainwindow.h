@@ -4,6 +4,7 @@
 
 #include <QColor>
 #include <QDateTime>
+#include <QDeadlineTimer>
 #include <QMainWindow>
 #include <QModelIndex>
 #include <QPointer>
@@ -12,6 +13,7 @@
 
 #include <optional>
 
+class QDialog;
 class QLabel;
 class QMenu;
 class QProgressDialog;
@@ -171,6 +173,12 @@ private:
     [[nodiscard]] std::optional<QString> newGroupTaskType();
     void showTaskDialog(const QString &taskId, const QString &groupId);
     void showGroupDialog(const QString &groupId);
+    bool runDialog(QDialog *dialog);
+    void finishCommand(bool succeeded, void (MCsMainWindow::*refresh)(), const QString &failureTitle,
+                       const QString &failureText);
+    void refreshAfterTrigger();
+    void refreshAfterDrop();
+    void refreshAfterGroupDeletion();
 
     // Activity log
     void refreshAuditLog();
@@ -197,11 +205,14 @@ private:
     QTimer *m_auditRefreshTimer = nullptr;
     QString currentGroupId;
     QString m_programParametersJson;
-    bool m_openingDialog = false;    ///< a dialog reads from the daemon and is not up yet; a second one must not open
-    bool m_updatingStatuses = false; ///< a one-second update waits for its answer
-    quint64 m_tableRefresh = 0;      ///< number of the newest table refresh; an older one's answer is stale
-    quint64 m_treeRefresh = 0;       ///< the same for the tree
-    quint64 m_losses = 0;            ///< connections that have ended; an answer from before the last is stale
+    bool m_openingDialog = false; ///< a dialog reads from the daemon and is not up yet; a second one must not open
+    QDeadlineTimer m_statusWait;  ///< how long the one-second update may still wait for its answer; expired when not
+    quint64 m_statusTick = 0;     ///< number of the newest one-second update; an older one's answer is stale
+    quint64 m_tableRefresh = 0;   ///< number of the newest table refresh; an older one's answer is stale
+    quint64 m_treeRefresh = 0;    ///< the same for the tree
+    quint64 m_countRefresh = 0;   ///< the same for the numbers of tasks in it
+    quint64 m_logRefresh = 0;     ///< the same for the activity log
+    quint64 m_losses = 0;         ///< connections that have ended; an answer from before the last is stale
 };
 
 } // namespace Scheduler

@@ -20,12 +20,15 @@ void MCsMainWindow::refreshAuditLog()
                     tr("Cannot refresh audit log because not connected to the service."));
         return;
     }
+    const quint64 refresh = ++m_logRefresh;
     const quint64 losses = m_losses;
     m_ui->logView->clear();
     QList<AuditLogEntry> newestFirst = m_client->getAuditLogs(shownEntries, false, QDateTime(), QDateTime());
-    if (losses != m_losses)
-        return;             // the next connection has filled the view, or will
-    m_ui->logView->clear(); // of what another refresh wrote while this one waited
+    // A refresh that began while this one waited has filled the view with what is newer, and so has, or will, the next
+    // connection.
+    if (refresh != m_logRefresh || losses != m_losses)
+        return;
+    m_ui->logView->clear();
     newestFirst.resize(qMin<qsizetype>(newestFirst.size(), shownEntries)); // whatever the daemon makes of the limit
     for (auto entry = newestFirst.crbegin(); entry != newestFirst.crend(); ++entry)
         m_ui->logView->append(formatAuditEntry(*entry));

@@ -42,24 +42,43 @@ std::optional<SelectedTask> selectedTask(const QTableWidget &table)
                         status == nullptr ? QString() : status->text()};
 }
 
-/// Runs the dialog and disposes of it. True when it was accepted. It may be destroyed while it is up, along with the
-/// window.
-bool runDialog(QPointer<QDialog> dialog)
+} // namespace
+
+// After a success a refresh, after a failure a box and nothing else. A window that was closed while the command waited
+// has nobody left to tell.
+void MCsMainWindow::finishCommand(bool succeeded, void (MCsMainWindow::*refresh)(), const QString &failureTitle,
+                                  const QString &failureText)
 {
-    const bool accepted = dialog->exec() == QDialog::Accepted;
-    if (dialog != nullptr)
-        dialog->deleteLater();
-    return accepted;
+    if (succeeded)
+        (this->*refresh)();
+    else if (m_state != ConnectionState::Closing)
+        showMessage(this, QMessageBox::Critical, failureTitle, failureText);
 }
 
-} // namespace
+// The daemon takes a moment to start what was triggered.
+void MCsMainWindow::refreshAfterTrigger()
+{
+    QTimer::singleShot(refreshAfterTriggerMs, this, &MCsMainWindow::onRefreshTaskList);
+}
+
+// True when the dialog was accepted and the window is still there. Disposes of the dialog, which may go along with the
+// window while it is up. It is not shown if the window was closed while its constructor waited for the daemon.
+bool MCsMainWindow::runDialog(QDialog *dialog)
+{
+    const QPointer<MCsMainWindow> self(this);
+    const QPointer<QDialog> guard(dialog);
+    const bool accepted = m_state != ConnectionState::Closing && dialog->exec() == QDialog::Accepted;
+    if (guard != nullptr)
+        guard->deleteLater();
+    return accepted && self != nullptr;
+}
 
 void MCsMainWindow::onCreateTask()
 {
     const QTreeWidgetItem *current = m_ui->groupTree->currentItem();
     const QString groupId =
         current == nullptr ? QString() : current->data(0, MCsGroupTreeWidget::GroupIdRole).toString();
-    showTaskDialog(QString(), groupId == "ungrouped"_L1 ? QString() : groupId);
+    showTaskDialog(QString(), groupId == ungroupedGroupId ? QString() : groupId);
 }
 
 void MCsMainWindow::onEditTask()
@@ -82,8 +101,7 @@ void MCsMainWindow::showTaskDialog(const QString &taskId, const QString &groupId
         dialog =
             new MCsTaskDialog(m_client, taskId, m_programName, m_programPath, m_programParametersJson, groupId, this);
     }
-    const QPointer<MCsMainWindow> self(this);
-    if (runDialog(dialog) && self != nullptr)
+    if (runDialog(dialog))
         refreshAll();
 }
 
@@ -96,10 +114,8 @@ void MCsMainWindow::onDeleteTask()
     }
     if (!askYesNo(this, tr("Confirm Delete"), tr("Are you sure you want to delete task '%1'?").arg(task->name)))
         return;
-    if (m_client->deleteTask(task->id))
-        refreshAll();
-    else
-        showMessage(this, QMessageBox::Critical, tr("Delete Error"), tr("Failed to delete task."));
+    finishCommand(m_client->deleteTask(task->id), &MCsMainWindow::refreshAll, tr("Delete Error"),
+                  tr("Failed to delete task."));
 }
 
 void MCsMainWindow::onToggleTaskEnabled()
@@ -108,10 +124,8 @@ void MCsMainWindow::onToggleTaskEnabled()
     if (!task)
         return;
     const bool enabled = task->statusText == enabledText(true);
-    if (enabled ? m_client->disableTask(task->id) : m_client->enableTask(task->id))
-        refreshAll();
-    else
-        showMessage(this, QMessageBox::Critical, tr("Toggle Error"), tr("Failed to toggle task status."));
+    finishCommand(enabled ? m_client->disableTask(task->id) : m_client->enableTask(task->id),
+                  &MCsMainWindow::refreshAll, tr("Toggle Error"), tr("Failed to toggle task status."));
 }
 
 void MCsMainWindow::onTriggerTask()
@@ -121,10 +135,8 @@ void MCsMainWindow::onTriggerTask()
         showMessage(this, QMessageBox::Warning, tr("No Selection"), tr("Please select a task to trigger."));
         return;
     }
-    if (m_client->triggerTask(task->id))
-        QTimer::singleShot(refreshAfterTriggerMs, this, &MCsMainWindow::onRefreshTaskList);
-    else
-        showMessage(this, QMessageBox::Critical, tr("Trigger Error"), tr("Failed to trigger task."));
+    finishCommand(m_client->triggerTask(task->id), &MCsMainWindow::refreshAfterTrigger, tr("Trigger Error"),
+                  tr("Failed to trigger task."));
 }
 
 void MCsMainWindow::onCreateGroup()
@@ -140,7 +152,7 @@ void MCsMainWindow::onEditGroup()
         return;
     }
     const QString groupId = selected.first()->data(0, MCsGroupTreeWidget::GroupIdRole).toString();
-    if (groupId == "ungrouped"_L1) {
+    if (groupId == ungroupedGroupId) {
         showMessage(this, QMessageBox::Warning, tr("Cannot Edit"), tr("The 'Ungrouped' group cannot be edited."));
         return;
     }
@@ -175,8 +187,7 @@ void MCsMainWindow::showGroupDialog(const QString &groupId)
         const QScopedValueRollback opening(m_openingDialog, true);
         dialog = new MCsGroupDialog(m_client, groupId, *taskType, this);
     }
-    const QPointer<MCsMainWindow> self(this);
-    if (!runDialog(dialog) || self == nullptr)
+    if (!runDialog(dialog))
         return;
     refreshGroupTree();
     refreshAll();
@@ -190,7 +201,7 @@ void MCsMainWindow::onDeleteGroup()
         return;
     }
     const QString groupId = selected.first()->data(0, MCsGroupTreeWidget::GroupIdRole).toString();
-    if (groupId == "ungrouped"_L1) {
+    if (groupId == ungroupedGroupId) {
         showMessage(this, QMessageBox::Warning, tr("Cannot Delete"), tr("The 'Ungrouped' group cannot be deleted."));
         return;
     }
@@ -200,42 +211,38 @@ void MCsMainWindow::onDeleteGroup()
             .arg(selected.first()->text(0));
     if (!askYesNo(this, tr("Confirm Delete"), question))
         return;
-    if (m_client->deleteGroup(groupId, false)) {
-        refreshGroupTree();
-        onRefreshTaskList();
-    } else {
-        showMessage(this, QMessageBox::Critical, tr("Delete Error"), tr("Failed to delete group."));
-    }
+    finishCommand(m_client->deleteGroup(groupId, false), &MCsMainWindow::refreshAfterGroupDeletion, tr("Delete Error"),
+                  tr("Failed to delete group."));
+}
+
+void MCsMainWindow::refreshAfterGroupDeletion()
+{
+    refreshGroupTree();
+    onRefreshTaskList();
 }
 
 void MCsMainWindow::onEnableAllTasksInGroup()
 {
     if (currentGroupId.isEmpty())
         return;
-    if (m_client->enableAllTasksInGroup(currentGroupId))
-        refreshAll();
-    else
-        showMessage(this, QMessageBox::Critical, tr("Error"), tr("Failed to enable all tasks in group."));
+    finishCommand(m_client->enableAllTasksInGroup(currentGroupId), &MCsMainWindow::refreshAll, tr("Error"),
+                  tr("Failed to enable all tasks in group."));
 }
 
 void MCsMainWindow::onDisableAllTasksInGroup()
 {
     if (currentGroupId.isEmpty())
         return;
-    if (m_client->disableAllTasksInGroup(currentGroupId))
-        refreshAll();
-    else
-        showMessage(this, QMessageBox::Critical, tr("Error"), tr("Failed to disable all tasks in group."));
+    finishCommand(m_client->disableAllTasksInGroup(currentGroupId), &MCsMainWindow::refreshAll, tr("Error"),
+                  tr("Failed to disable all tasks in group."));
 }
 
 void MCsMainWindow::onTriggerAllTasksInGroup()
 {
     if (currentGroupId.isEmpty())
         return;
-    if (m_client->triggerAllTasksInGroup(currentGroupId))
-        QTimer::singleShot(refreshAfterTriggerMs, this, &MCsMainWindow::onRefreshTaskList);
-    else
-        showMessage(this, QMessageBox::Critical, tr("Error"), tr("Failed to trigger all tasks in group."));
+    finishCommand(m_client->triggerAllTasksInGroup(currentGroupId), &MCsMainWindow::refreshAfterTrigger, tr("Error"),
+                  tr("Failed to trigger all tasks in group."));
 }
 
 void MCsMainWindow::onDeleteAllTasksInGroup()
@@ -245,10 +252,8 @@ void MCsMainWindow::onDeleteAllTasksInGroup()
         return;
     if (!askYesNo(this, tr("Confirm Delete"), tr("Are you sure you want to delete all tasks in this group?")))
         return;
-    if (m_client->deleteAllTasksInGroup(groupId))
-        onRefreshTaskList();
-    else
-        showMessage(this, QMessageBox::Critical, tr("Error"), tr("Failed to delete all tasks in group."));
+    finishCommand(m_client->deleteAllTasksInGroup(groupId), &MCsMainWindow::onRefreshTaskList, tr("Error"),
+                  tr("Failed to delete all tasks in group."));
 }
 
 } // namespace Scheduler

@@ -1,7 +1,6 @@
 #include "mcsmainwindow.h"
 
 #include "mcsschedulerclient.h"
-#include "messagebox.h"
 #include "ui_mcsmainwindow.h"
 
 namespace Scheduler {
@@ -15,22 +14,20 @@ void MCsMainWindow::onTasksDroppedOnGroup(const QStringList &taskIds, const QStr
     const bool single = taskIds.size() == 1;
     const bool moved = single ? m_client->moveTaskToGroup(taskIds.first(), groupId)
                               : m_client->batchMoveTasksToGroup(taskIds, groupId);
-    if (!moved) {
-        showMessage(this, QMessageBox::Critical, tr("Error"),
-                    single ? tr("Failed to move task to group '%1'.").arg(name)
-                           : tr("Failed to move %1 tasks to group '%2'.").arg(QString::number(taskIds.size()), name));
-        return;
-    }
-    refreshAll();
-    updateGroupTaskCounts();
+    const QString failure =
+        single ? tr("Failed to move task to group '%1'.").arg(name)
+               : tr("Failed to move %1 tasks to group '%2'.").arg(QString::number(taskIds.size()), name);
+    finishCommand(moved, &MCsMainWindow::refreshAfterDrop, tr("Error"), failure);
 }
 
 void MCsMainWindow::onTaskDroppedOnGroup(const QString &taskId, const QString &groupId)
 {
-    if (!m_client->moveTaskToGroup(taskId, groupId)) {
-        showMessage(this, QMessageBox::Critical, tr("Error"), tr("Failed to move task to group."));
-        return;
-    }
+    finishCommand(m_client->moveTaskToGroup(taskId, groupId), &MCsMainWindow::refreshAfterDrop, tr("Error"),
+                  tr("Failed to move task to group."));
+}
+
+void MCsMainWindow::refreshAfterDrop()
+{
     refreshAll();
     updateGroupTaskCounts();
 }

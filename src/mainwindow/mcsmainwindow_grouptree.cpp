@@ -23,9 +23,9 @@ QString itemText(const QString &name, int count)
 
 void tint(QTreeWidgetItem &item, const QString &colorName)
 {
-    QColor color(colorName);
-    if (colorName.isEmpty() || !color.isValid())
+    if (!QColor::isValidColorName(colorName)) // asked first, since QColor warns of a name that it does not know
         return;
+    QColor color(colorName);
     item.setForeground(0, color);
     color.setAlpha(tintAlpha);
     item.setBackground(0, color);
@@ -63,10 +63,11 @@ void MCsMainWindow::refreshGroupTree()
     if (!m_client->isConnected())
         return;
     const quint64 refresh = ++m_treeRefresh;
+    const quint64 losses = m_losses;
     m_ui->groupTree->clear();
     const QList<GroupInfo> groups = m_client->listGroups();
     // A rebuild that began while this one waited has filled the tree.
-    if (refresh == m_treeRefresh)
+    if (refresh == m_treeRefresh && losses == m_losses)
         fillGroupTree(m_client->isAllTypesClient() ? mergedByName(groups) : groups);
 }
 
@@ -94,14 +95,16 @@ void MCsMainWindow::updateGroupTaskCounts()
 {
     if (!m_client->isConnected())
         return;
+    const quint64 refresh = ++m_countRefresh;
     const quint64 losses = m_losses;
     QStringList ids;
     for (QTreeWidgetItemIterator it(m_ui->groupTree); *it != nullptr; ++it)
         ids.append((*it)->data(0, MCsGroupTreeWidget::GroupIdRole).toString());
     for (const QString &id : std::as_const(ids)) {
         const int count = m_client->getTaskCountByGroup(id);
-        if (losses != m_losses)
-            return; // a lost connection's count; what is shown stays, or is of the next connection already
+        // Counts that were asked for while this one waited are newer, and those of a lost connection are none.
+        if (refresh != m_countRefresh || losses != m_losses)
+            return;
         // The tree may have been rebuilt while the request waited.
         QTreeWidgetItem *item = findGroupItem(id);
         if (item == nullptr)
@@ -125,7 +128,7 @@ void MCsMainWindow::onGroupSelectionChanged()
     const QList<QTreeWidgetItem *> selected = m_ui->groupTree->selectedItems();
     currentGroupId =
         selected.isEmpty() ? QString() : selected.first()->data(0, MCsGroupTreeWidget::GroupIdRole).toString();
-    const bool editable = !selected.isEmpty() && currentGroupId != "ungrouped"_L1;
+    const bool editable = !selected.isEmpty() && currentGroupId != ungroupedGroupId;
     m_ui->editGroupButton->setEnabled(editable);
     m_ui->deleteGroupButton->setEnabled(editable);
     refreshTaskTable();
@@ -143,7 +146,12 @@ void MCsMainWindow::onGroupCollapsed(const QModelIndex & /*index*/) {}
 void MCsMainWindow::showGroupContextMenu(const QPoint &position)
 {
     const QTreeWidgetItem *item = m_ui->groupTree->itemAt(position);
-    if (item == nullptr || item->data(0, MCsGroupTreeWidget::GroupIdRole).toString() == "ungrouped"_L1)
+    if (item == nullptr)
+        return;
+    // The press has selected the item, but the table that follows waits for the daemon, and meanwhile another may have
+    // been selected. The commands would act on that one.
+    const QString groupId = item->data(0, MCsGroupTreeWidget::GroupIdRole).toString();
+    if (groupId == ungroupedGroupId || groupId != currentGroupId)
         return;
     groupContextMenu->exec(m_ui->groupTree->viewport()->mapToGlobal(position));
 }

@@ -6,13 +6,15 @@
 #include "ui_mcsmainwindow.h"
 
 #include <QHash>
-#include <QScopedValueRollback>
 
 using namespace Qt::StringLiterals;
 
 namespace Scheduler {
 
 namespace {
+
+/// A request of the one-second update has surely ended by then.
+constexpr int statusWaitMs = MCsSchedulerClient::commandTimeoutMs + 500;
 
 enum Column : int { NameColumn, TypeColumn, StatusColumn, NextRunColumn, LastRunColumn };
 
@@ -134,19 +136,25 @@ void MCsMainWindow::updateTaskCountLabel()
 
 void MCsMainWindow::onUpdateTaskStatus()
 {
-    // A daemon that does not answer must not pile waits upon waits.
-    if (!m_client->isConnected() || m_updatingStatuses)
+    // A daemon that does not answer must not pile waits upon waits. A dialog that was opened inside a wait keeps that
+    // tick from returning, though its request has long ended; the statuses go on under the dialog.
+    if (!m_client->isConnected() || !m_statusWait.hasExpired())
         return;
-    const QScopedValueRollback<bool> updating(m_updatingStatuses, true);
+    m_statusWait.setRemainingTime(statusWaitMs);
     refreshTaskStatuses();
+    m_statusWait.setRemainingTime(0);
 }
 
 void MCsMainWindow::refreshTaskStatuses()
 {
     if (rowsById(*m_ui->taskTable).isEmpty())
         return;
+    const quint64 tick = ++m_statusTick;
+    const quint64 refresh = m_tableRefresh;
     const QList<TaskInfo> tasks = m_client->listTasks();
-    // The rows are those of now; the table may have been filled anew while the request waited.
+    // What a refresh or a later tick has written while this one waited is newer.
+    if (tick != m_statusTick || refresh != m_tableRefresh)
+        return;
     const QHash<QString, int> rows = rowsById(*m_ui->taskTable);
     for (const TaskInfo &task : tasks) {
         if (const auto row = rows.constFind(task.id); row != rows.constEnd())

@@ -56,7 +56,7 @@ void MCsTaskDialog::loadGroups()
     if (self == nullptr || listing != m_groupListing)
         return;
     for (const GroupInfo &group : groups) {
-        if (group.id != "ungrouped"_L1)
+        if (group.id != ungroupedGroupId)
             combo->addItem(group.name, group.id);
     }
 }

@@ -17,7 +17,7 @@ ARROWS = {
     "src/style": [],
     "src/taskeditor": ["src/client", "src/plaintext", "src/style"],
     "src/groupeditor": ["src/client", "src/plaintext", "src/style"],
-    "src/mainwindow": ["src/client", "src/taskeditor", "src/groupeditor"],
+    "src/mainwindow": ["src/client", "src/plaintext", "src/taskeditor", "src/groupeditor"],
     "src/app": ["src/mainwindow"],
     "devdaemon": ["src/ipc"],
 }
