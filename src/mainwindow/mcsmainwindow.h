@@ -2,8 +2,6 @@
 
 #include "records.h"
 
-#include <QColor>
-#include <QDateTime>
 #include <QDeadlineTimer>
 #include <QMainWindow>
 #include <QModelIndex>
@@ -152,16 +150,10 @@ private:
     // Task table
     void refreshAll();
     void refreshTaskTable();
-    void fillTaskTable(const QList<TaskInfo> &tasks);
-    void fillTaskRow(int row, const TaskInfo &task);
     void updateTaskCountLabel();
     void refreshTaskStatuses();
-    void updateTaskRow(int row, const TaskInfo &task);
     void refreshTypeFilter();
     [[nodiscard]] QList<TaskInfo> listShownTasks();
-    [[nodiscard]] QString formatNextRun(const QDateTime &when) const;
-    [[nodiscard]] QString formatRunStatus(const QString &status) const;
-    [[nodiscard]] QColor runStatusColor(const QString &status) const;
 
     // Group tree
     void refreshGroupTree();

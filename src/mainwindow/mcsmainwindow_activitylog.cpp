@@ -5,6 +5,8 @@
 #include "messagebox.h"
 #include "ui_mcsmainwindow.h"
 
+#include <QTextCursor>
+
 namespace Scheduler {
 
 namespace {
@@ -30,8 +32,12 @@ void MCsMainWindow::refreshAuditLog()
         return;
     m_ui->logView->clear();
     newestFirst.resize(qMin<qsizetype>(newestFirst.size(), shownEntries)); // whatever the daemon makes of the limit
+    // In one edit, so that the view is laid out once and not for each line.
+    QTextCursor edit(m_ui->logView->document());
+    edit.beginEditBlock();
     for (auto entry = newestFirst.crbegin(); entry != newestFirst.crend(); ++entry)
         m_ui->logView->append(formatAuditEntry(*entry));
+    edit.endEditBlock();
 }
 
 QString MCsMainWindow::formatAuditEntry(const AuditLogEntry &entry) const

@@ -6,6 +6,7 @@
 
 #include <QHash>
 #include <QMenu>
+#include <QPersistentModelIndex>
 #include <QTreeWidgetItemIterator>
 
 using namespace Qt::StringLiterals;
@@ -40,6 +41,16 @@ QTreeWidgetItem *newItem(const GroupInfo &group)
     item->setData(0, MCsGroupTreeWidget::GroupNameRole, group.name);
     tint(*item, group.color);
     return item;
+}
+
+// Every change of an item makes its view lay out and repaint it, so that what stands is left alone.
+void showCount(QTreeWidgetItem &item, int count)
+{
+    const QString text = itemText(MCsGroupTreeWidget::plainName(item), count);
+    if (item.text(0) != text)
+        item.setText(0, text);
+    if (item.data(0, MCsGroupTreeWidget::GroupTaskCountRole) != count)
+        item.setData(0, MCsGroupTreeWidget::GroupTaskCountRole, count);
 }
 
 /// Parents that form a circle would take their items out of the tree altogether.
@@ -79,15 +90,18 @@ void MCsMainWindow::fillGroupTree(const QList<GroupInfo> &groups)
         items.append(newItem(group));
         itemsById.insert(group.id, items.last());
     }
-    // A second pass, so that a child may be listed before its parent.
+    // A second pass, so that a child may be listed before its parent. What is no child goes into the tree last and at
+    // once, since each change of a tree that is shown costs more than the item.
+    QList<QTreeWidgetItem *> topLevel;
     for (qsizetype i = 0; i < groups.size(); ++i) {
         const QString &parentId = groups.at(i).parentId;
         QTreeWidgetItem *parent = parentId.isEmpty() ? nullptr : itemsById.value(parentId);
         if (parent != nullptr && !isSelfOrAncestor(*items.at(i), parent))
             parent->addChild(items.at(i));
         else
-            m_ui->groupTree->addTopLevelItem(items.at(i));
+            topLevel.append(items.at(i));
     }
+    m_ui->groupTree->addTopLevelItems(topLevel);
     m_ui->groupTree->expandAll();
 }
 
@@ -97,20 +111,24 @@ void MCsMainWindow::updateGroupTaskCounts()
         return;
     const quint64 refresh = ++m_countRefresh;
     const quint64 losses = m_losses;
-    QStringList ids;
+    struct Group {
+        QString id;
+        QPersistentModelIndex index; ///< invalid once the tree was rebuilt
+    };
+    QList<Group> groups;
     for (QTreeWidgetItemIterator it(m_ui->groupTree); *it != nullptr; ++it)
-        ids.append((*it)->data(0, MCsGroupTreeWidget::GroupIdRole).toString());
-    for (const QString &id : std::as_const(ids)) {
-        const int count = m_client->getTaskCountByGroup(id);
+        groups.append(
+            {(*it)->data(0, MCsGroupTreeWidget::GroupIdRole).toString(), m_ui->groupTree->indexFromItem(*it)});
+    for (const Group &group : std::as_const(groups)) {
+        const int count = m_client->getTaskCountByGroup(group.id);
         // Counts that were asked for while this one waited are newer, and those of a lost connection are none.
         if (refresh != m_countRefresh || losses != m_losses)
             return;
         // The tree may have been rebuilt while the request waited.
-        QTreeWidgetItem *item = findGroupItem(id);
-        if (item == nullptr)
-            continue;
-        item->setText(0, itemText(MCsGroupTreeWidget::plainName(*item), count));
-        item->setData(0, MCsGroupTreeWidget::GroupTaskCountRole, count);
+        QTreeWidgetItem *item =
+            group.index.isValid() ? m_ui->groupTree->itemFromIndex(group.index) : findGroupItem(group.id);
+        if (item != nullptr)
+            showCount(*item, count);
     }
 }
 

@@ -51,19 +51,19 @@ void TestTaskTexts::countsDownInWholeUnits()
 {
     QFETCH(qint64, milliseconds);
     const QDateTime now(QDate(2026, 3, 1), QTime(14, 7, 55));
-    QTEST(nextRunText(now.addMSecs(milliseconds), now), "text");
+    QTEST(formatNextRun(now.addMSecs(milliseconds), now), "text");
 }
 
 void TestTaskTexts::anInvalidTimeIsNotScheduled()
 {
-    QCOMPARE(nextRunText(QDateTime(), QDateTime::currentDateTime()), u"Not scheduled"_s);
+    QCOMPARE(formatNextRun(QDateTime(), QDateTime::currentDateTime()), u"Not scheduled"_s);
 }
 
 void TestTaskTexts::comparesTimesOfDifferentZones()
 {
     const QDateTime now = QDateTime::fromString(u"2026-03-01T14:00:00+02:00"_s, Qt::ISODate);
     const QDateTime when = QDateTime::fromString(u"2026-03-01T12:30:00Z"_s, Qt::ISODate);
-    QCOMPARE(nextRunText(when, now), u"30m 0s left"_s);
+    QCOMPARE(formatNextRun(when, now), u"30m 0s left"_s);
 }
 
 void TestTaskTexts::countsDownAcrossADaylightSavingChange()
@@ -72,7 +72,7 @@ void TestTaskTexts::countsDownAcrossADaylightSavingChange()
     tzset();
     const QDateTime before(QDate(2026, 3, 29), QTime(1, 30));
     const QDateTime after(QDate(2026, 3, 29), QTime(3, 30));
-    const QString text = nextRunText(after, before);
+    const QString text = formatNextRun(after, before);
     qunsetenv("TZ");
     tzset();
     QCOMPARE(text, u"1h 0m left"_s);
@@ -108,8 +108,8 @@ void TestTaskTexts::aStatusHasAWordAndAColour_data()
 void TestTaskTexts::aStatusHasAWordAndAColour()
 {
     QFETCH(QString, status);
-    QTEST(lastRunText(status), "text");
-    QTEST(lastRunColor(status), "color");
+    QTEST(formatRunStatus(status), "text");
+    QTEST(runStatusColor(status), "color");
 }
 
 void TestTaskTexts::enabledTasksAreGreenAndDisabledOnesGrey()
