@@ -3,25 +3,32 @@
 #include <QIODevice>
 
 #include <cstring>
+#include <utility>
 
 namespace Scheduler {
 
+namespace {
+
+/// Room for several reads, so that what is left of one seldom moves.
+constexpr qsizetype usualCapacity = 1 << 16;
+/// The array keeps its capacity; one read that was large would otherwise be paid for in memory for ever.
+constexpr qsizetype keptCapacity = 1 << 20;
+
+} // namespace
+
 void MCsFrameBuffer::append(QByteArrayView bytes)
 {
-    dropTaken();
+    makeRoom(bytes.size());
     m_bytes.append(bytes);
 }
 
 qsizetype MCsFrameBuffer::readFrom(QIODevice &device)
 {
-    dropTaken();
+    const auto available = static_cast<qsizetype>(device.bytesAvailable());
+    makeRoom(available);
     const qsizetype before = m_bytes.size();
-    // A resize to the exact size would copy a large unfinished frame for each small piece.
-    const qsizetype needed = before + static_cast<qsizetype>(device.bytesAvailable());
-    if (needed > m_bytes.capacity())
-        m_bytes.reserve(qMax(needed, 2 * before));
-    m_bytes.resize(needed);
-    const qint64 count = device.read(m_bytes.data() + before, needed - before);
+    m_bytes.resize(before + available);
+    const qint64 count = device.read(m_bytes.data() + before, available);
     m_bytes.resize(before + static_cast<qsizetype>(qMax<qint64>(count, 0)));
     return m_bytes.size() - before;
 }
@@ -38,6 +45,8 @@ std::optional<QByteArray> MCsFrameBuffer::takeFrame()
         const qsizetype frameStart = m_taken;
         const qsizetype frameEnd = static_cast<const char *>(found) - start;
         m_taken = m_searched = frameEnd + 1;
+        if (frameStart == 0 && m_taken == m_bytes.size() && m_taken > usualCapacity)
+            return takeAll();
         if (frameEnd > frameStart)
             return m_bytes.sliced(frameStart, frameEnd - frameStart);
     }
@@ -55,18 +64,31 @@ qsizetype MCsFrameBuffer::size() const
     return m_bytes.size() - m_taken;
 }
 
-void MCsFrameBuffer::dropTaken()
+/// A large frame that is all there is goes out as it is, without a copy.
+QByteArray MCsFrameBuffer::takeAll()
 {
-    if (m_taken == 0)
-        return;
-    // The array keeps its capacity here; one read that was large would otherwise be paid for in memory for ever.
-    constexpr qsizetype keptCapacity = 1 << 20;
-    if (m_taken == m_bytes.size() && m_bytes.capacity() > keptCapacity)
+    QByteArray frame = std::exchange(m_bytes, {});
+    frame.chop(1);
+    m_taken = m_searched = 0;
+    return frame;
+}
+
+/// Sees to it that so many bytes can be appended without being moved. Bytes of taken frames go when nothing else is
+/// left or when their room is needed.
+void MCsFrameBuffer::makeRoom(qsizetype count)
+{
+    const qsizetype left = size();
+    if (left == 0 && m_bytes.capacity() > keptCapacity)
         m_bytes = QByteArray();
-    else
-        m_bytes.remove(0, m_taken);
-    m_searched -= m_taken;
-    m_taken = 0;
+    if (left == 0 || (m_taken > 0 && m_bytes.size() + count > m_bytes.capacity())) {
+        std::memmove(m_bytes.data(), m_bytes.constData() + m_taken, static_cast<size_t>(left));
+        m_bytes.resize(left);
+        m_searched -= m_taken;
+        m_taken = 0;
+    }
+    // Twice as much each time: the exact size would copy a large unfinished frame for each small piece.
+    if (const qsizetype needed = m_bytes.size() + count; needed > m_bytes.capacity())
+        m_bytes.reserve(qMax(needed, qMax(usualCapacity, 2 * m_bytes.size())));
 }
 
 } // namespace Scheduler

@@ -27,7 +27,8 @@ public:
     [[nodiscard]] qsizetype size() const;
 
 private:
-    void dropTaken();
+    QByteArray takeAll();
+    void makeRoom(qsizetype count);
 
     QByteArray m_bytes;
     qsizetype m_taken = 0;    ///< bytes at the start that belong to taken frames

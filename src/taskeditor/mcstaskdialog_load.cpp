@@ -77,9 +77,12 @@ void MCsTaskDialog::loadTask()
     loadTaskParams(task.paramsJson);
 }
 
-// The dialog is not up yet, so the boxes stand before the window that opens it. Loading goes on after them.
+// The dialog is not up yet, so the boxes stand before the window that opens it, unless that was closed while the task
+// was read. Loading goes on after them.
 void MCsTaskDialog::warnAboutType(const TaskInfo &task)
 {
+    if (parentWidget() != nullptr && !parentWidget()->isVisible())
+        return;
     const bool known =
         std::ranges::any_of(m_taskTypes, [&task](const TaskTypeInfo &type) { return type.type == task.type; });
     if (m_client == nullptr || task.type != m_client->clientType())
