@@ -60,23 +60,6 @@ void GroupDialogFixture::answerGroupList(const QJsonArray &groups)
     m_daemon->answer(u"group.listByTaskType"_s, {{u"groups"_s, groups}});
 }
 
-void GroupDialogFixture::whileWaiting(const QString &cmd, const std::function<void()> &action)
-{
-    m_daemon->hold(cmd);
-    m_daemon->onRequest(cmd, [this, cmd, action](const QJsonObject &) {
-        if (m_daemon->requests(cmd).size() > 1)
-            return;
-        // From the event loop of the wait, not from under the daemon's own reading.
-        QMetaObject::invokeMethod(
-            m_daemon.get(),
-            [this, cmd, action] {
-                action();
-                m_daemon->release(cmd);
-            },
-            Qt::QueuedConnection);
-    });
-}
-
 QAbstractButton *GroupDialogFixture::button(QDialogButtonBox::StandardButton which) const
 {
     auto *const box = require<QDialogButtonBox>(m_dialog.get(), "buttonBox");

@@ -15,7 +15,6 @@
 #include <QSpinBox>
 #include <QTextEdit>
 
-#include <functional>
 #include <memory>
 
 namespace TestSupport {
@@ -37,8 +36,6 @@ protected:
     /// Lets the daemon answer with the group "g1", changed or completed by these members.
     void answerGroup(const QJsonObject &changes = {});
     void answerGroupList(const QJsonArray &groups);
-    /// Runs once, while the client waits for the answer to the command; the answer is held back until it has run.
-    void whileWaiting(const QString &cmd, const std::function<void()> &action);
 
     [[nodiscard]] QAbstractButton *button(QDialogButtonBox::StandardButton which) const;
     void save();

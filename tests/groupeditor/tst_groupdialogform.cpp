@@ -1,8 +1,10 @@
 #include "groupdialogfixture.h"
 #include "testmain.h"
 
+#include <QApplication>
 #include <QFormLayout>
 #include <QLabel>
+#include <QToolTip>
 #include <QTranslator>
 
 using namespace Qt::StringLiterals;
@@ -25,6 +27,19 @@ public:
     }
 };
 
+/// The tool tip that a widget shows; null when none came.
+QImage toolTipOf(QWidget *widget)
+{
+    QToolTip::showText(widget->mapToGlobal(QPoint()), widget->toolTip(), widget);
+    QImage image;
+    const QWidgetList windows = QApplication::topLevelWidgets();
+    for (QWidget *window : windows) {
+        if (window->inherits("QTipLabel") && window->isVisible())
+            image = window->grab().toImage();
+    }
+    return image;
+}
+
 } // namespace
 
 class TestGroupDialogForm : public GroupDialogFixture {
@@ -33,6 +48,8 @@ class TestGroupDialogForm : public GroupDialogFixture {
 private slots:
     void fieldsStandInOrderWithTheirLabels();
     void fieldsHaveTheirSettings();
+    void theSpinBoxHasDrawnArrows();
+    void theSpinBoxDressesNoToolTip();
     void noteAndButtonsFollowTheForm();
     void titleTellsTheMode();
     void textsStayEnglishWithATranslator();
@@ -87,6 +104,26 @@ void TestGroupDialogForm::fieldsHaveTheirSettings()
     QCOMPARE(displayOrder()->maximum(), 9999);
     QCOMPARE(displayOrder()->value(), 0);
     QCOMPARE(displayOrder()->toolTip(), u"Lower numbers appear first"_s);
+}
+
+void TestGroupDialogForm::theSpinBoxHasDrawnArrows()
+{
+    openForCreate();
+    QVERIFY(displayOrder()->property("win10SpinBoxStyleApplied").toBool());
+    QCOMPARE(displayOrder()->buttonSymbols(), QAbstractSpinBox::UpDownArrows);
+}
+
+void TestGroupDialogForm::theSpinBoxDressesNoToolTip()
+{
+    openForCreate();
+    QSpinBox plain(m_dialog.get());
+    plain.setToolTip(displayOrder()->toolTip());
+    plain.show();
+    const QImage expected = toolTipOf(&plain);
+    QVERIFY(!expected.isNull());
+    QCOMPARE(toolTipOf(displayOrder()), expected);
+    QToolTip::hideText();
+    QTRY_VERIFY(!QToolTip::isVisible());
 }
 
 void TestGroupDialogForm::noteAndButtonsFollowTheForm()

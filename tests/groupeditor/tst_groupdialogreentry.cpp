@@ -35,7 +35,7 @@ void TestGroupDialogReentry::savePressedTwiceMakesOneGroup()
 {
     openForCreate();
     name()->setText(u"x"_s);
-    whileWaiting(u"group.create"_s, [this] {
+    m_daemon->whileWaiting(u"group.create"_s, [this] {
         save();
         save();
     });
@@ -50,7 +50,7 @@ void TestGroupDialogReentry::savePressedAgainAfterARefusalIsSent()
     openForCreate();
     name()->setText(u"x"_s);
     m_daemon->refuse(u"group.create"_s, u"BUSY"_s, u"later"_s);
-    whileWaiting(u"group.create"_s, [this] { save(); });
+    m_daemon->whileWaiting(u"group.create"_s, [this] { save(); });
     ModalDriver driver;
     driver.expectBox(QMessageBox::Critical, u"Error"_s, failedText);
     save();
@@ -67,7 +67,7 @@ void TestGroupDialogReentry::typedWhileTheSaveWaitsIsKeptWhenItFails()
     openForCreate();
     name()->setText(u"x"_s);
     m_daemon->refuse(u"group.create"_s, u"BUSY"_s, u"later"_s);
-    whileWaiting(u"group.create"_s, [this] { QTest::keyClicks(name(), u"yz"_s); });
+    m_daemon->whileWaiting(u"group.create"_s, [this] { QTest::keyClicks(name(), u"yz"_s); });
     ModalDriver driver;
     driver.expectBox(QMessageBox::Critical, u"Error"_s, failedText);
     save();
@@ -85,7 +85,7 @@ void TestGroupDialogReentry::cancelledWhileASuccessfulSaveWaits()
         ORVEL_REQUIRE_WIDGET(QLineEdit, edit, opened, "nameEdit");
         ORVEL_REQUIRE_WIDGET(QDialogButtonBox, buttons, opened, "buttonBox");
         edit->setText(u"x"_s);
-        whileWaiting(u"group.create"_s, [&] {
+        m_daemon->whileWaiting(u"group.create"_s, [&] {
             click(buttons->button(QDialogButtonBox::Cancel));
             hiddenAtOnce = !dialog.isVisible();
         });
@@ -101,7 +101,7 @@ void TestGroupDialogReentry::cancelledWhileAFailingSaveWaits()
     openForCreate();
     name()->setText(u"x"_s);
     m_daemon->refuse(u"group.create"_s, u"BUSY"_s, u"later"_s);
-    whileWaiting(u"group.create"_s, [this] { click(button(QDialogButtonBox::Cancel)); });
+    m_daemon->whileWaiting(u"group.create"_s, [this] { click(button(QDialogButtonBox::Cancel)); });
     const LogCapture log;
     ModalDriver driver;
     save();
@@ -125,7 +125,7 @@ void TestGroupDialogReentry::destroyedWhileTheSaveWaits()
     name()->setText(u"x"_s);
     if (refused)
         m_daemon->refuse(u"group.create"_s, u"BUSY"_s, u"later"_s);
-    whileWaiting(u"group.create"_s, [this] { m_dialog.reset(); });
+    m_daemon->whileWaiting(u"group.create"_s, [this] { m_dialog.reset(); });
     const LogCapture log;
     ModalDriver driver;
     save();
@@ -140,7 +140,7 @@ void TestGroupDialogReentry::connectionLostWhileTheSaveWaits()
 {
     openForCreate();
     name()->setText(u"x"_s);
-    whileWaiting(u"group.create"_s, [this] { m_daemon->dropConnections(); });
+    m_daemon->whileWaiting(u"group.create"_s, [this] { m_daemon->dropConnections(); });
     const LogCapture log;
     ModalDriver driver;
     driver.expectBox(QMessageBox::Critical, u"Error"_s, failedText);
@@ -160,7 +160,7 @@ void TestGroupDialogReentry::connectionLostWhileTheSaveWaits()
 void TestGroupDialogReentry::connectionLostWhileTheGroupIsLoaded()
 {
     answerGroupList({groupRecord(u"a"_s, u"A"_s)});
-    whileWaiting(u"group.get"_s, [this] { m_daemon->dropConnections(); });
+    m_daemon->whileWaiting(u"group.get"_s, [this] { m_daemon->dropConnections(); });
     openForEdit();
     QVERIFY(!m_client->isConnected());
     QCOMPARE(name()->text(), QString());
@@ -171,7 +171,7 @@ void TestGroupDialogReentry::destroyedWhileTheGroupsAreListed()
 {
     answerGroupList({groupRecord(u"a"_s, u"A"_s)});
     auto window = std::make_unique<QWidget>();
-    whileWaiting(u"group.listByTaskType"_s, [&window] { window.reset(); });
+    m_daemon->whileWaiting(u"group.listByTaskType"_s, [&window] { window.reset(); });
     new MCsGroupDialog(m_client.get(), u"g1"_s, {}, window.get());
     QVERIFY(window == nullptr);
     QCOMPARE(m_daemon->commands(), QStringList{u"group.listByTaskType"_s});
@@ -180,7 +180,7 @@ void TestGroupDialogReentry::destroyedWhileTheGroupsAreListed()
 void TestGroupDialogReentry::destroyedWhileTheGroupIsLoaded()
 {
     auto window = std::make_unique<QWidget>();
-    whileWaiting(u"group.get"_s, [&window] { window.reset(); });
+    m_daemon->whileWaiting(u"group.get"_s, [&window] { window.reset(); });
     new MCsGroupDialog(m_client.get(), u"g1"_s, {}, window.get());
     QVERIFY(window == nullptr);
     QCOMPARE(m_daemon->commands(), (QStringList{u"group.listByTaskType"_s, u"group.get"_s}));

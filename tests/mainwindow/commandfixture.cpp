@@ -16,9 +16,9 @@ QStringList bundleAfter(const QString &listing)
 
 } // namespace
 
-bool CommandFixture::connectQuietly(const QString &taskType)
+bool CommandFixture::connectQuietly(const QString &taskType, const QString &language)
 {
-    if (!connectWindow(taskType))
+    if (!connectWindow(taskType, language))
         return false;
     timer("statusUpdateTimer")->stop();
     setTasks({taskJson(u"t1"_s, u"One"_s), taskJson(u"t2"_s, u"Two"_s, {{u"enabled"_s, false}}),
@@ -71,20 +71,9 @@ QJsonObject CommandFixture::payloadOf(const QString &cmd) const
     return requests.size() == 1 ? requests.first().value("payload"_L1).toObject() : QJsonObject();
 }
 
-void CommandFixture::whileWaiting(const QString &cmd, const std::function<void()> &action)
+void expectDeleteQuestion(ModalDriver &driver, const QString &text, QMessageBox::StandardButton press)
 {
-    daemon.hold(cmd);
-    daemon.onRequest(cmd, [this, cmd, action](const QJsonObject &) {
-        daemon.onRequest(cmd, {});
-        // From the event loop of the wait, not from under the daemon's own reading.
-        QMetaObject::invokeMethod(
-            &daemon,
-            [this, cmd, action] {
-                action();
-                daemon.release(cmd);
-            },
-            Qt::QueuedConnection);
-    });
+    driver.expectBox(QMessageBox::Question, u"Confirm Delete"_s, text, QMessageBox::Yes | QMessageBox::No, press);
 }
 
 QStringList bundle()

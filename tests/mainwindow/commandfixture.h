@@ -1,12 +1,11 @@
 #pragma once
 
+#include "modaldriver.h"
 #include "windowfixture.h"
 
 #include <QStringList>
 #include <QTableWidget>
 #include <QTreeWidget>
-
-#include <functional>
 
 namespace TestSupport {
 
@@ -14,7 +13,8 @@ namespace TestSupport {
 /// request that the daemon gets comes of what the test does.
 class CommandFixture : public WindowFixture {
 public:
-    [[nodiscard]] bool connectQuietly(const QString &taskType = QStringLiteral("task_type.screen_record"));
+    [[nodiscard]] bool connectQuietly(const QString &taskType = QStringLiteral("task_type.screen_record"),
+                                      const QString &language = QStringLiteral("en"));
 
     [[nodiscard]] QTableWidget *table() const;
     [[nodiscard]] QTreeWidget *tree() const;
@@ -26,9 +26,11 @@ public:
 
     /// Payload of the only request of the command; empty when there is none or more than one.
     [[nodiscard]] QJsonObject payloadOf(const QString &cmd) const;
-    /// Runs an action in the wait for the answer to the first request of the command, which comes after it.
-    void whileWaiting(const QString &cmd, const std::function<void()> &action);
 };
+
+/// Expects a question before a deletion; only its text differs from command to command.
+void expectDeleteQuestion(ModalDriver &driver, const QString &text,
+                          QMessageBox::StandardButton press = QMessageBox::Yes);
 
 /// The requests that refresh the table, the counts of the two groups and the activity log.
 [[nodiscard]] QStringList bundle();

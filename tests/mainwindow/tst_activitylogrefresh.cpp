@@ -51,8 +51,8 @@ private slots:
     void aTickShowsWhatTheDaemonDidByItself();
     void ticksAreIdleWhileTheConnectionIsLostAndGoOnAfterwards();
     void aTickOfAClosingWindowSendsNothing();
-    void aRefreshUnderAnotherDoublesNoLine_data();
-    void aRefreshUnderAnotherDoublesNoLine();
+    void theNewerOfTwoOverlappingRefreshesStays_data();
+    void theNewerOfTwoOverlappingRefreshesStays();
     void aConnectionThatGoesUnderARefreshBringsNoBox();
     void aReconnectionUnderARefreshKeepsItsLines();
 };
@@ -182,14 +182,14 @@ void TestActivityLogRefresh::aTickOfAClosingWindowSendsNothing()
     QCOMPARE(fixture.daemon.commands(), QStringList());
 }
 
-void TestActivityLogRefresh::aRefreshUnderAnotherDoublesNoLine_data()
+void TestActivityLogRefresh::theNewerOfTwoOverlappingRefreshesStays_data()
 {
     QTest::addColumn<bool>("newestFirst");
     QTest::newRow("answered in their order") << false;
     QTest::newRow("answered the other way round") << true;
 }
 
-void TestActivityLogRefresh::aRefreshUnderAnotherDoublesNoLine()
+void TestActivityLogRefresh::theNewerOfTwoOverlappingRefreshesStays()
 {
     QFETCH(bool, newestFirst);
     LoggedWindow fixture;
@@ -201,6 +201,7 @@ void TestActivityLogRefresh::aRefreshUnderAnotherDoublesNoLine()
             QTimer::singleShot(0, fixture.window.get(), &MCsMainWindow::onAuditLogAutoRefresh);
             return;
         }
+        fixture.happen(u"task.created"_s, u"Three"_s); // which the first answer does not know yet
         QTimer::singleShot(0, &fixture.daemon, [&] {
             QCOMPARE(fixture.daemon.heldCount(), 2);
             QCOMPARE(fixture.lines(), QStringList()); // both wait
@@ -211,7 +212,7 @@ void TestActivityLogRefresh::aRefreshUnderAnotherDoublesNoLine()
     });
     fixture.refresh();
     QCOMPARE(fixture.daemon.requests(u"audit.list"_s).size(), 2);
-    QCOMPARE(fixture.lines(), QStringList({created(u"One"_s), created(u"Two"_s)}));
+    QCOMPARE(fixture.lines(), QStringList({created(u"One"_s), created(u"Two"_s), created(u"Three"_s)}));
 }
 
 void TestActivityLogRefresh::aConnectionThatGoesUnderARefreshBringsNoBox()

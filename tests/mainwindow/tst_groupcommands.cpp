@@ -1,5 +1,4 @@
 #include "commandfixture.h"
-#include "modaldriver.h"
 #include "testmain.h"
 
 #include <QApplication>
@@ -11,13 +10,10 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-void expectDeleteQuestion(ModalDriver &driver, const QString &itemText,
-                          QMessageBox::StandardButton press = QMessageBox::Yes)
+QString question(const QString &itemText)
 {
-    const QString text =
-        u"Are you sure you want to delete group '%1'?\nTasks in this group will be moved to 'Ungrouped'."_s.arg(
-            itemText);
-    driver.expectBox(QMessageBox::Question, u"Confirm Delete"_s, text, QMessageBox::Yes | QMessageBox::No, press);
+    return u"Are you sure you want to delete group '%1'?\nTasks in this group will be moved to 'Ungrouped'."_s.arg(
+        itemText);
 }
 
 } // namespace
@@ -93,7 +89,7 @@ void TestGroupCommands::aGroupOfLikeIdIsNotRefused()
     click(fixture.window.get(), "refreshGroupButton");
     fixture.selectGroup(0);
     ModalDriver driver;
-    expectDeleteQuestion(driver, u"ungrouped (2)"_s);
+    expectDeleteQuestion(driver, question(u"ungrouped (2)"_s));
     click(fixture.window.get(), "deleteGroupButton");
     QVERIFY2(driver.finished(), driver.problems());
     QCOMPARE(fixture.payloadOf(u"group.delete"_s).value("groupId"_L1).toString(), u"Ungrouped"_s);
@@ -105,7 +101,7 @@ void TestGroupCommands::theQuestionTellsTheNumberOfTasksBehindTheName()
     QVERIFY(fixture.connectQuietly());
     fixture.selectGroup(0);
     ModalDriver driver;
-    expectDeleteQuestion(driver, u"Work (3)"_s, QMessageBox::No);
+    expectDeleteQuestion(driver, question(u"Work (3)"_s), QMessageBox::No);
     click(fixture.window.get(), "deleteGroupButton");
     QVERIFY2(driver.finished(), driver.problems());
 }
@@ -127,7 +123,7 @@ void TestGroupCommands::theQuestionShowsTheNameAsItIs()
     click(fixture.window.get(), "refreshGroupButton");
     fixture.selectGroup(0);
     ModalDriver driver;
-    expectDeleteQuestion(driver, name + u" (3)"_s, QMessageBox::No);
+    expectDeleteQuestion(driver, question(name + u" (3)"_s), QMessageBox::No);
     click(fixture.window.get(), "deleteGroupButton");
     QVERIFY2(driver.finished(), driver.problems());
     QCOMPARE(driver.seen().first().textFormat, Qt::PlainText);
@@ -139,7 +135,7 @@ void TestGroupCommands::theQuestionAnsweredNoSendsNothing()
     QVERIFY(fixture.connectQuietly());
     fixture.selectGroup(0);
     ModalDriver driver;
-    expectDeleteQuestion(driver, u"Work (3)"_s, QMessageBox::No);
+    expectDeleteQuestion(driver, question(u"Work (3)"_s), QMessageBox::No);
     click(fixture.window.get(), "deleteGroupButton");
     driver.expectDialog<QMessageBox>(u"Confirm Delete"_s,
                                      [](QMessageBox *box) { QTest::keyClick(box, Qt::Key_Escape); });
@@ -172,7 +168,7 @@ void TestGroupCommands::aDeletedGroupIsFollowedByTheTreeAndTheOtherRefreshes()
         fixture.setGroups({groupJson(u"ungrouped"_s, u"Ungrouped"_s)});
     });
     ModalDriver driver;
-    expectDeleteQuestion(driver, u"Work (3)"_s);
+    expectDeleteQuestion(driver, question(u"Work (3)"_s));
     click(fixture.window.get(), "deleteGroupButton");
     QVERIFY2(driver.finished(), driver.problems());
     // The table follows the selection that the rebuilt tree has lost.
@@ -193,7 +189,7 @@ void TestGroupCommands::childGroupsAreLeftToTheDaemon()
     click(fixture.window.get(), "refreshGroupButton");
     fixture.selectGroup(0);
     ModalDriver driver;
-    expectDeleteQuestion(driver, u"Work (0)"_s);
+    expectDeleteQuestion(driver, question(u"Work (0)"_s));
     click(fixture.window.get(), "deleteGroupButton");
     QVERIFY2(driver.finished(), driver.problems());
     QCOMPARE(fixture.payloadOf(u"group.delete"_s),
@@ -207,7 +203,7 @@ void TestGroupCommands::aFailureShowsABoxAndNothingElse()
     fixture.selectGroup(0);
     fixture.daemon.refuse(u"group.delete"_s, u"GROUP_HAS_CHILDREN"_s, u"a detail of the daemon"_s);
     ModalDriver driver;
-    expectDeleteQuestion(driver, u"Work (3)"_s);
+    expectDeleteQuestion(driver, question(u"Work (3)"_s));
     driver.expectBox(QMessageBox::Critical, u"Delete Error"_s, u"Failed to delete group."_s);
     click(fixture.window.get(), "deleteGroupButton");
     QVERIFY2(driver.finished(), driver.problems());

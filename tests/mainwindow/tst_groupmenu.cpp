@@ -1,6 +1,5 @@
 #include "commandfixture.h"
 #include "menuuser.h"
-#include "modaldriver.h"
 #include "testmain.h"
 
 #include <QApplication>
@@ -12,6 +11,8 @@ using namespace TestSupport;
 using namespace Qt::StringLiterals;
 
 namespace {
+
+const QString question = u"Are you sure you want to delete all tasks in this group?"_s;
 
 /// As the window system reports it, so that Qt makes the request for the menu by itself.
 void rightClick(const CommandFixture &fixture, const QPoint &inViewport)
@@ -45,12 +46,12 @@ private slots:
     void aFailureShowsABoxAndNothingElse();
     void deletingAllTasksAnsweredNoSendsNothing();
     void afterARebuildTheRightClickSelectsAnew();
+    void noMenuOpensOnAGroupThatIsSelectedNoMore_data();
+    void noMenuOpensOnAGroupThatIsSelectedNoMore();
     void withoutASelectionTheCommandsDoNothing_data();
     void withoutASelectionTheCommandsDoNothing();
 
 private:
-    void expectDeleteQuestion(ModalDriver &driver, QMessageBox::StandardButton press);
-
     std::unique_ptr<CommandFixture> m_fixture;
 };
 
@@ -65,13 +66,6 @@ void TestGroupMenu::cleanup()
 {
     m_fixture.reset();
     QCOMPARE(openWindows(), QStringList());
-}
-
-void TestGroupMenu::expectDeleteQuestion(ModalDriver &driver, QMessageBox::StandardButton press)
-{
-    driver.expectBox(QMessageBox::Question, u"Confirm Delete"_s,
-                     u"Are you sure you want to delete all tasks in this group?"_s, QMessageBox::Yes | QMessageBox::No,
-                     press);
 }
 
 void TestGroupMenu::aRightClickSelectsItsGroupAndShowsTheMenu()
@@ -140,7 +134,7 @@ void TestGroupMenu::aChoiceIsCarriedOutAndFollowedByTheRefreshes()
     QFETCH(QString, command);
     ModalDriver driver;
     if (command == "group.deleteAllTasks"_L1)
-        expectDeleteQuestion(driver, QMessageBox::Yes);
+        expectDeleteQuestion(driver, question);
     const MenuUser user(QString::fromLatin1(QTest::currentDataTag()));
     rightClickGroup(*m_fixture, 0);
     QVERIFY2(driver.finished(), driver.problems());
@@ -170,7 +164,7 @@ void TestGroupMenu::aFailureShowsABoxAndNothingElse()
     m_fixture->daemon.refuse(command, u"INTERNAL"_s, u"a detail of the daemon"_s);
     ModalDriver driver;
     if (command == "group.deleteAllTasks"_L1)
-        expectDeleteQuestion(driver, QMessageBox::Yes);
+        expectDeleteQuestion(driver, question);
     driver.expectBox(QMessageBox::Critical, u"Error"_s, text);
     const MenuUser user(QString::fromLatin1(QTest::currentDataTag()));
     rightClickGroup(*m_fixture, 0);
@@ -185,7 +179,7 @@ void TestGroupMenu::deletingAllTasksAnsweredNoSendsNothing()
 {
     m_fixture->selectGroup(0);
     ModalDriver driver;
-    expectDeleteQuestion(driver, QMessageBox::No);
+    expectDeleteQuestion(driver, question, QMessageBox::No);
     const MenuUser user(u"Delete All Tasks"_s);
     rightClickGroup(*m_fixture, 0);
     QVERIFY2(driver.finished(), driver.problems());
@@ -204,6 +198,40 @@ void TestGroupMenu::afterARebuildTheRightClickSelectsAnew()
     QCOMPARE(m_fixture->daemon.commands(),
              QStringList({u"task.listByGroupAndType"_s, u"group.disableAllTasks"_s}) + bundleOfGroup());
     QCOMPARE(m_fixture->payloadOf(u"group.disableAllTasks"_s), QJsonObject({{u"groupId"_s, u"g1"_s}}));
+}
+
+void TestGroupMenu::noMenuOpensOnAGroupThatIsSelectedNoMore_data()
+{
+    QTest::addColumn<bool>("rebuilt");
+    QTest::addColumn<QString>("selected");
+    QTest::newRow("another is selected meanwhile") << false << u"g2"_s;
+    QTest::newRow("the tree is rebuilt meanwhile") << true << QString();
+}
+
+// The press selects the group, and the table that follows the selection waits for the daemon before the menu's turn.
+void TestGroupMenu::noMenuOpensOnAGroupThatIsSelectedNoMore()
+{
+    QFETCH(bool, rebuilt);
+    QFETCH(QString, selected);
+    QTreeWidget *tree = m_fixture->tree();
+    m_fixture->setGroups({groupJson(u"g1"_s, u"Work"_s), groupJson(u"g2"_s, u"Home"_s)});
+    m_fixture->window->onRefreshGroups();
+    QString pressed;
+    m_fixture->daemon.whileWaiting(u"task.listByGroupAndType"_s, [&] {
+        pressed = tree->selectedItems().value(0)->data(0, Qt::UserRole).toString();
+        m_fixture->daemon.release(u"task.listByGroupAndType"_s); // for what is asked for meanwhile
+        if (rebuilt)
+            m_fixture->window->onRefreshGroups();
+        else
+            tree->setCurrentItem(tree->topLevelItem(1));
+    });
+    const MenuUser user(u"Disable All Tasks"_s);
+    rightClickGroup(*m_fixture, 0);
+    QCOMPARE(pressed, u"g1"_s);
+    QCOMPARE(user.items(), QStringList());
+    QVERIFY(!m_fixture->daemon.commands().contains(u"group.disableAllTasks"_s));
+    const QList<QTreeWidgetItem *> items = tree->selectedItems();
+    QCOMPARE(items.isEmpty() ? QString() : items.first()->data(0, Qt::UserRole).toString(), selected);
 }
 
 void TestGroupMenu::withoutASelectionTheCommandsDoNothing_data()

@@ -34,7 +34,6 @@ private slots:
     void aConnectionRestoredUnderTheQuestionCarriesTheCommand();
     void aConnectionLostUnderTheRequestReadsAsAFailure();
     void aSilentDaemonReadsAsAFailure();
-    void aWindowClosedUnderTheRequestStaysClosed();
     void theOwnTicksGoOnUnderTheQuestion();
     void aSecondPressWhileADialogIsMadeOpensNoOther_data();
     void aSecondPressWhileADialogIsMadeOpensNoOther();
@@ -171,7 +170,7 @@ void TestInterruptedCommands::aConnectionLostUnderTheRequestReadsAsAFailure()
     ModalDriver driver;
     driver.expectDialog<QMessageBox>(u"Confirm Delete"_s, &answerYes);
     driver.expectBox(QMessageBox::Critical, u"Delete Error"_s, u"Failed to delete task."_s);
-    m_fixture->whileWaiting(u"task.delete"_s, [this] { m_fixture->daemon.stop(); });
+    m_fixture->daemon.whileWaiting(u"task.delete"_s, [this] { m_fixture->daemon.stop(); });
     click(m_fixture->window.get(), "deleteButton");
     QVERIFY2(driver.finished(), driver.problems());
     QCOMPARE(m_fixture->daemon.commands(), QStringList({u"task.delete"_s}));
@@ -187,19 +186,6 @@ void TestInterruptedCommands::aSilentDaemonReadsAsAFailure()
     m_fixture->run(u"onToggleTaskEnabled"_s); // returns after the two seconds that a command waits
     QVERIFY2(driver.finished(), driver.problems());
     QCOMPARE(m_fixture->daemon.commands(), QStringList({u"task.disable"_s}));
-}
-
-void TestInterruptedCommands::aWindowClosedUnderTheRequestStaysClosed()
-{
-    m_fixture->selectTask(0);
-    ModalDriver driver;
-    driver.expectDialog<QMessageBox>(u"Confirm Delete"_s, &answerYes);
-    m_fixture->whileWaiting(u"task.delete"_s, [this] { QVERIFY(m_fixture->window->close()); });
-    click(m_fixture->window.get(), "deleteButton");
-    QVERIFY2(driver.finished(), driver.problems());
-    QVERIFY(!m_fixture->window->isVisible());
-    QCOMPARE(m_fixture->window->connectionState(), ConnectionState::Closing);
-    QCOMPARE(m_fixture->daemon.requests(u"task.delete"_s).size(), 1);
 }
 
 void TestInterruptedCommands::theOwnTicksGoOnUnderTheQuestion()
@@ -231,7 +217,7 @@ void TestInterruptedCommands::aSecondPressWhileADialogIsMadeOpensNoOther()
     QFETCH(QString, title);
     ModalDriver driver;
     driver.expectDialog<QDialog>(title, [](QDialog *dialog) { dialog->reject(); });
-    m_fixture->whileWaiting(u"group.listByTaskType"_s, [this] {
+    m_fixture->daemon.whileWaiting(u"group.listByTaskType"_s, [this] {
         click(m_fixture->window.get(), "createButton");
         click(m_fixture->window.get(), "createGroupButton");
     });

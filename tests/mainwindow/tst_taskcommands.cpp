@@ -1,5 +1,4 @@
 #include "commandfixture.h"
-#include "modaldriver.h"
 #include "testmain.h"
 
 #include <QApplication>
@@ -11,16 +10,9 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-QString deleteQuestion(const QString &name)
+QString question(const QString &name)
 {
     return u"Are you sure you want to delete task '%1'?"_s.arg(name);
-}
-
-void expectDeleteQuestion(ModalDriver &driver, const QString &name,
-                          QMessageBox::StandardButton press = QMessageBox::Yes)
-{
-    driver.expectBox(QMessageBox::Question, u"Confirm Delete"_s, deleteQuestion(name),
-                     QMessageBox::Yes | QMessageBox::No, press);
 }
 
 } // namespace
@@ -35,6 +27,8 @@ private slots:
     void togglingWithoutASelectionDoesNothing();
     void aSuccessIsFollowedByTheRefreshes_data();
     void aSuccessIsFollowedByTheRefreshes();
+    void togglingFollowsTheStatusInEveryLanguage_data();
+    void togglingFollowsTheStatusInEveryLanguage();
     void theRefreshesKeepToTheSelectedGroup();
     void aFailureShowsABoxAndNothingElse_data();
     void aFailureShowsABoxAndNothingElse();
@@ -100,11 +94,32 @@ void TestTaskCommands::aSuccessIsFollowedByTheRefreshes()
     fixture.selectTask(row);
     ModalDriver driver;
     if (control == "deleteButton"_L1)
-        expectDeleteQuestion(driver, u"One"_s);
+        expectDeleteQuestion(driver, question(u"One"_s));
     fixture.run(control);
     QVERIFY2(driver.finished(), driver.problems());
     QCOMPARE(fixture.daemon.commands(), QStringList(command) + bundle());
     QCOMPARE(fixture.payloadOf(command), QJsonObject({{u"taskId"_s, id}}));
+}
+
+void TestTaskCommands::togglingFollowsTheStatusInEveryLanguage_data()
+{
+    QTest::addColumn<QString>("statuses");
+    QTest::newRow("en") << u"Enabled, Disabled"_s;
+    QTest::newRow("de") << u"Aktiviert, Deaktiviert"_s;
+}
+
+void TestTaskCommands::togglingFollowsTheStatusInEveryLanguage()
+{
+    QFETCH(QString, statuses);
+    CommandFixture fixture;
+    QVERIFY(fixture.connectQuietly(u"task_type.screen_record"_s, QString::fromLatin1(QTest::currentDataTag())));
+    QCOMPARE(fixture.table()->item(0, 2)->text() + u", "_s + fixture.table()->item(1, 2)->text(), statuses);
+    fixture.selectTask(0);
+    fixture.run(u"onToggleTaskEnabled"_s);
+    QCOMPARE(fixture.daemon.commands().value(0), u"task.disable"_s);
+    fixture.selectTask(1);
+    fixture.run(u"onToggleTaskEnabled"_s);
+    QCOMPARE(fixture.daemon.commands().value(0), u"task.enable"_s);
 }
 
 void TestTaskCommands::theRefreshesKeepToTheSelectedGroup()
@@ -114,7 +129,7 @@ void TestTaskCommands::theRefreshesKeepToTheSelectedGroup()
     fixture.selectGroup(0);
     fixture.selectTask(0);
     ModalDriver driver;
-    expectDeleteQuestion(driver, u"One"_s);
+    expectDeleteQuestion(driver, question(u"One"_s));
     click(fixture.window.get(), "deleteButton");
     QVERIFY2(driver.finished(), driver.problems());
     QCOMPARE(fixture.daemon.commands(), QStringList(u"task.delete"_s) + bundleOfGroup());
@@ -149,7 +164,7 @@ void TestTaskCommands::aFailureShowsABoxAndNothingElse()
     fixture.daemon.refuse(command, u"INTERNAL"_s, u"a detail of the daemon"_s);
     ModalDriver driver;
     if (control == "deleteButton"_L1)
-        expectDeleteQuestion(driver, u"One"_s);
+        expectDeleteQuestion(driver, question(u"One"_s));
     driver.expectBox(QMessageBox::Critical, title, text);
     fixture.run(control);
     QVERIFY2(driver.finished(), driver.problems());
@@ -178,7 +193,7 @@ void TestTaskCommands::theQuestionAnsweredNoSendsNothing()
         driver.expectDialog<QMessageBox>(u"Confirm Delete"_s,
                                          [](QMessageBox *box) { QTest::keyClick(box, Qt::Key_Escape); });
     else
-        expectDeleteQuestion(driver, u"One"_s, QMessageBox::No);
+        expectDeleteQuestion(driver, question(u"One"_s), QMessageBox::No);
     click(fixture.window.get(), "deleteButton");
     QVERIFY2(driver.finished(), driver.problems());
     QCOMPARE(fixture.daemon.commands(), QStringList());
@@ -216,7 +231,7 @@ void TestTaskCommands::theQuestionShowsTheNameAsItIs()
     click(fixture.window.get(), "refreshButton");
     fixture.selectTask(0);
     ModalDriver driver;
-    expectDeleteQuestion(driver, name, QMessageBox::No);
+    expectDeleteQuestion(driver, question(name), QMessageBox::No);
     click(fixture.window.get(), "deleteButton");
     QVERIFY2(driver.finished(), driver.problems());
     QCOMPARE(driver.seen().first().textFormat, Qt::PlainText);
@@ -243,7 +258,7 @@ void TestTaskCommands::ofThreeSelectedRowsOnlyTheFirstItemsTaskIsDeleted()
     others.removeIf([&id](const QJsonObject &task) { return task.value("id"_L1).toString() == id; });
     fixture.daemon.onRequest(u"task.delete"_s, [&](const QJsonObject &) { fixture.setTasks(others); });
     ModalDriver driver;
-    expectDeleteQuestion(driver, target->text());
+    expectDeleteQuestion(driver, question(target->text()));
     click(fixture.window.get(), "deleteButton");
     QVERIFY2(driver.finished(), driver.problems());
     QCOMPARE(fixture.payloadOf(u"task.delete"_s), QJsonObject({{u"taskId"_s, id}}));

@@ -51,6 +51,7 @@ private slots:
     void aFilterTextAsksForThatType();
     void aGroupIsAskedForWithTheClientsType();
     void aFilterTextLimitsAGroupsTasks();
+    void aFilterTextOfNoTypeEmptiesAGroupsTable();
     void theLabelTellsCountAndGroup();
     void theLabelNamesNoGroupWithoutACurrentItem();
     void aRefusedListingEmptiesTheTable();
@@ -161,6 +162,21 @@ void TestTaskTable::aFilterTextLimitsAGroupsTasks()
     const auto *table = fixture.widget<QTableWidget>("taskTable");
     QCOMPARE(table->rowCount(), 1);
     QCOMPARE(table->item(0, 0)->text(), u"B"_s);
+}
+
+void TestTaskTable::aFilterTextOfNoTypeEmptiesAGroupsTable()
+{
+    WindowFixture fixture;
+    QVERIFY(fixture.connectWindow());
+    auto *tree = fixture.widget<QTreeWidget>("groupTree");
+    tree->setCurrentItem(tree->topLevelItem(0));
+    QCOMPARE(fixture.widget<QTableWidget>("taskTable")->rowCount(), 2);
+    auto *filter = fixture.widget<QComboBox>("typeFilterCombo");
+    filter->addItem(u"Screen Recorder"_s, u"task_type.screen_record"_s); // the name of the tasks' type is no type
+    filter->setCurrentIndex(filter->count() - 1);
+    fixture.window->onRefreshTaskList();
+    QCOMPARE(fixture.widget<QTableWidget>("taskTable")->rowCount(), 0);
+    QCOMPARE(fixture.widget<QLabel>("taskCountLabel")->text(), u"Tasks: 0 (in Work)"_s);
 }
 
 void TestTaskTable::theLabelTellsCountAndGroup()

@@ -1,15 +1,36 @@
+#include "commandfixture.h"
 #include "logcapture.h"
 #include "mcsschedulerclient.h"
-#include "modaldriver.h"
 #include "testmain.h"
-#include "windowfixture.h"
 
+#include <QAbstractButton>
 #include <QApplication>
 #include <QProgressDialog>
 
 using namespace Scheduler;
 using namespace TestSupport;
 using namespace Qt::StringLiterals;
+
+namespace {
+
+/// Titles of the dialogs that are shown, also of those that the application's end closes again at once.
+class ShownDialogs : public QObject {
+public:
+    ShownDialogs()
+    {
+        qApp->installEventFilter(this);
+    }
+    bool eventFilter(QObject *watched, QEvent *event) override
+    {
+        if (const auto *dialog = qobject_cast<QDialog *>(watched); dialog != nullptr && event->type() == QEvent::Show)
+            titles.append(dialog->windowTitle());
+        return false;
+    }
+
+    QStringList titles;
+};
+
+} // namespace
 
 /// Closing the window, in every state.
 class TestWindowClose : public QObject {
@@ -23,6 +44,8 @@ private slots:
     void closingWhileTheRegistrationWaitsEndsWithoutAMessage();
     void closingDuringTheReconnectDialogEndsTheSequence();
     void closingInTheMiddleOfARefreshDoesNotComeBack();
+    void closingWhileADaemonCallWaitsShowsNothingMore_data();
+    void closingWhileADaemonCallWaitsShowsNothingMore();
     void aClosedWindowStaysClosing();
 };
 
@@ -132,6 +155,54 @@ void TestWindowClose::closingInTheMiddleOfARefreshDoesNotComeBack()
     QCOMPARE(fixture.window->connectionState(), ConnectionState::Closing);
     QVERIFY(!fixture.window->isVisible());
     QVERIFY(!fixture.timer("auditRefreshTimer")->isActive());
+}
+
+void TestWindowClose::closingWhileADaemonCallWaitsShowsNothingMore_data()
+{
+    QTest::addColumn<QString>("control");
+    QTest::addColumn<QString>("waiting");
+    QTest::newRow("delete a task") << u"deleteButton"_s << u"task.delete"_s;
+    QTest::newRow("toggle a task") << u"onToggleTaskEnabled"_s << u"task.disable"_s;
+    QTest::newRow("trigger a task") << u"triggerButton"_s << u"task.trigger"_s;
+    QTest::newRow("delete a group") << u"deleteGroupButton"_s << u"group.delete"_s;
+    QTest::newRow("enable a group's tasks") << u"onEnableAllTasksInGroup"_s << u"group.enableAllTasks"_s;
+    QTest::newRow("delete a group's tasks") << u"onDeleteAllTasksInGroup"_s << u"group.deleteAllTasks"_s;
+    QTest::newRow("drop a task") << QString() << u"task.moveToGroup"_s;
+    QTest::newRow("dialog of a new task") << u"createButton"_s << u"group.listByTaskType"_s;
+    QTest::newRow("dialog of a task") << u"editButton"_s << u"task.get"_s;
+    QTest::newRow("dialog of a new group") << u"createGroupButton"_s << u"group.listByTaskType"_s;
+    QTest::newRow("dialog of a group") << u"editGroupButton"_s << u"group.get"_s;
+}
+
+void TestWindowClose::closingWhileADaemonCallWaitsShowsNothingMore()
+{
+    QFETCH(QString, control);
+    QFETCH(QString, waiting);
+    CommandFixture fixture;
+    QVERIFY(fixture.connectQuietly());
+    fixture.selectGroup(0);
+    fixture.selectTask(0);
+    fixture.daemon.hold(waiting); // the application's end ends the wait
+    fixture.daemon.onRequest(
+        waiting, [&fixture](const QJsonObject &) { QTimer::singleShot(0, fixture.window.get(), &QWidget::close); });
+    ModalDriver driver;
+    const bool asks = waiting.startsWith("task.delete"_L1) || waiting.startsWith("group.delete"_L1);
+    if (asks)
+        driver.expectDialog<QMessageBox>(u"Confirm Delete"_s,
+                                         [](QMessageBox *box) { box->button(QMessageBox::Yes)->click(); });
+    const ShownDialogs shown;
+    QTimer::singleShot(0, fixture.window.get(), [&] {
+        if (control.isEmpty())
+            fixture.window->onTasksDroppedOnGroup({u"t1"_s}, u"g1"_s);
+        else
+            fixture.run(control);
+    });
+    QCOMPARE(runUntilQuit(), 0);
+    QVERIFY2(driver.finished(), driver.problems());
+    QCOMPARE(shown.titles, asks ? QStringList{u"Confirm Delete"_s} : QStringList());
+    QCOMPARE(fixture.daemon.commands().last(), waiting);
+    QCOMPARE(fixture.window->connectionState(), ConnectionState::Closing);
+    QVERIFY(!fixture.window->isVisible());
 }
 
 void TestWindowClose::aClosedWindowStaysClosing()

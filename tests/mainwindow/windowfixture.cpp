@@ -68,11 +68,11 @@ bool WindowFixture::startDaemon()
     return daemon.listen();
 }
 
-bool WindowFixture::connectWindow(const QString &taskType)
+bool WindowFixture::connectWindow(const QString &taskType, const QString &language)
 {
     if (!startDaemon())
         return false;
-    open(taskType);
+    open(taskType, language);
     const auto settled = [this] {
         // The question after an empty list is the last thing that a first connection brings.
         return window->connectionState() == Scheduler::ConnectionState::Connected &&

@@ -37,7 +37,8 @@ public:
     /// Lets the daemon answer with some tasks and groups, and listen.
     [[nodiscard]] bool startDaemon();
     /// startDaemon(), open(), and waits until the window has read everything that it reads after connecting.
-    [[nodiscard]] bool connectWindow(const QString &taskType = QStringLiteral("task_type.screen_record"));
+    [[nodiscard]] bool connectWindow(const QString &taskType = QStringLiteral("task_type.screen_record"),
+                                     const QString &language = QStringLiteral("en"));
     /// Destroys the window.
     void close();
 

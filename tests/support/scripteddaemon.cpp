@@ -110,6 +110,22 @@ void ScriptedDaemon::onRequest(const QString &cmd, const Hook &hook)
     m_hooks.insert(cmd, hook);
 }
 
+void ScriptedDaemon::whileWaiting(const QString &cmd, const std::function<void()> &action)
+{
+    hold(cmd);
+    onRequest(cmd, [this, cmd, action](const QJsonObject &) {
+        onRequest(cmd, {});
+        // From the event loop of the wait, not from under the daemon's own reading.
+        QMetaObject::invokeMethod(
+            this,
+            [this, cmd, action] {
+                action();
+                release(cmd);
+            },
+            Qt::QueuedConnection);
+    });
+}
+
 QList<QJsonObject> ScriptedDaemon::requests(const QString &cmd) const
 {
     if (cmd.isEmpty())

@@ -53,6 +53,8 @@ public:
     void releaseNewest();
     [[nodiscard]] qsizetype heldCount() const;
     void onRequest(const QString &cmd, const Hook &hook);
+    /// Runs an action once, while the next request of the command waits for its answer, which comes after it.
+    void whileWaiting(const QString &cmd, const std::function<void()> &action);
 
     /// Requests so far, in order, optionally of one command.
     [[nodiscard]] QList<QJsonObject> requests(const QString &cmd = {}) const;

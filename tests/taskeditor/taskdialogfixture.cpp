@@ -110,20 +110,7 @@ void TaskDialogFixture::answerTypes(const QJsonArray &types)
 
 void TaskDialogFixture::whileWaiting(const QString &cmd, const std::function<void()> &action)
 {
-    m_daemon->hold(cmd);
-    const qsizetype before = m_daemon->requests(cmd).size();
-    m_daemon->onRequest(cmd, [this, cmd, action, before](const QJsonObject &) {
-        if (m_daemon->requests(cmd).size() > before + 1)
-            return;
-        // From the event loop of the wait, not from under the daemon's own reading.
-        QMetaObject::invokeMethod(
-            m_daemon.get(),
-            [this, cmd, action] {
-                action();
-                m_daemon->release(cmd);
-            },
-            Qt::QueuedConnection);
-    });
+    m_daemon->whileWaiting(cmd, action);
 }
 
 QAbstractButton *TaskDialogFixture::button(QDialogButtonBox::StandardButton which) const
