@@ -5,6 +5,7 @@
 #include "messagebox.h"
 #include "ui_mcsmainwindow.h"
 
+#include <QScrollBar>
 #include <QTextCursor>
 
 namespace Scheduler {
@@ -38,6 +39,9 @@ void MCsMainWindow::refreshAuditLog()
     for (auto entry = newestFirst.crbegin(); entry != newestFirst.crend(); ++entry)
         m_ui->logView->append(formatAuditEntry(*entry));
     edit.endEditBlock();
+    // Within an edit the view does not follow what is appended.
+    QScrollBar *position = m_ui->logView->verticalScrollBar();
+    position->setValue(position->maximum());
 }
 
 QString MCsMainWindow::formatAuditEntry(const AuditLogEntry &entry) const

@@ -41,6 +41,7 @@ private slots:
     void ofAHundredAndOneEntriesTheOldestIsNotShown();
     void ofADaemonThatIgnoresTheLimitTheNewestHundredAreShown();
     void theOldestStandsAtTheTop();
+    void theNewestIsInSight();
     void twoRefreshesInARowShowTheSameLines();
     void aRefreshShowsWhatTheDaemonHasNow();
     void eachKindHasItsSentenceAndColour_data();
@@ -109,6 +110,20 @@ void TestActivityLog::theOldestStandsAtTheTop()
     QCOMPARE(fixture.lines(),
              QStringList({LogWindow::time + u" Task 'b' updated"_s, LogWindow::time + u" Task 'a' updated"_s,
                           LogWindow::time + u" Task 'c' updated"_s}));
+}
+
+void TestActivityLog::theNewestIsInSight()
+{
+    LogWindow fixture;
+    QVERIFY(fixture.connect());
+    for (int i = 1; i <= 100; ++i)
+        fixture.happen(u"task.updated"_s, u"entry %1"_s.arg(i));
+    for (int refresh = 0; refresh < 2; ++refresh) {
+        fixture.refresh();
+        QTextCursor end(fixture.view->document());
+        end.movePosition(QTextCursor::End);
+        QTRY_VERIFY(fixture.view->viewport()->rect().contains(fixture.view->cursorRect(end)));
+    }
 }
 
 void TestActivityLog::twoRefreshesInARowShowTheSameLines()
