@@ -2,11 +2,13 @@
 #include "taskdialogfixture.h"
 #include "testmain.h"
 
+#include <QAbstractSpinBox>
 #include <QComboBox>
 #include <QFormLayout>
 #include <QLabel>
 #include <QLineEdit>
 #include <QRadioButton>
+#include <QSet>
 #include <QTextDocument>
 
 using namespace Qt::StringLiterals;
@@ -48,6 +50,7 @@ private slots:
     void tabGoesThroughTheFieldsBeforeTheOutput();
     void tabOrderSurvivesARebuiltForm();
     void tabReachesTheSizeFieldInItsPlace();
+    void eachFieldIsNamedForScreenReaders();
 
 private:
     /// Names of what the Tab key reaches from one widget up to another one, both included.
@@ -231,6 +234,30 @@ void TestTaskDialogForm::tabReachesTheSizeFieldInItsPlace()
     QCOMPARE(tabStops("stopModeByFileSize", "afterActionNone"),
              (QStringList{u"stopModeByFileSize"_s, m_dialog->findChild<MCsFileSizeSpinBox *>()->objectName(),
                           u"afterActionNone"_s}));
+}
+
+// By the label in front of it, by an accessible name, or by a text of its own.
+void TestTaskDialogForm::eachFieldIsNamedForScreenReaders()
+{
+    openForCreate();
+    QSet<const QWidget *> named;
+    for (const QLabel *label : m_dialog->findChildren<QLabel *>()) {
+        if (label->buddy() != nullptr && !label->text().isEmpty())
+            named.insert(label->buddy());
+    }
+    int fields = 0;
+    for (QWidget *field : m_dialog->findChildren<QWidget *>()) {
+        const bool isField =
+            qobject_cast<QLineEdit *>(field) != nullptr || qobject_cast<QComboBox *>(field) != nullptr ||
+            qobject_cast<QAbstractSpinBox *>(field) != nullptr || qobject_cast<QAbstractButton *>(field) != nullptr;
+        if (!isField || field->objectName().startsWith("qt_"_L1)) // of Qt's own making
+            continue;
+        ++fields;
+        const auto *button = qobject_cast<QAbstractButton *>(field);
+        const bool hasText = button != nullptr && !button->text().isEmpty();
+        QVERIFY2(hasText || named.contains(field) || !field->accessibleName().isEmpty(), qPrintable(describe(field)));
+    }
+    QVERIFY(fields > 40);
 }
 
 ORVEL_TEST_MAIN(QApplication, TestTaskDialogForm)
