@@ -56,7 +56,7 @@ void fillRow(QTableWidget &table, int row, const TaskInfo &task, TaskTexts &text
     table.setItem(row, NameColumn, name);
     table.setItem(row, TypeColumn, new QTableWidgetItem(texts.typeName(task.type)));
     table.setItem(row, StatusColumn, coloredItem(texts.enabledLook(task.enabled)));
-    table.setItem(row, NextRunColumn, new QTableWidgetItem(texts.text(name->countdown)));
+    table.setItem(row, NextRunColumn, new QTableWidgetItem(texts.formatNextRun(name->countdown)));
     table.setItem(row, LastRunColumn, lastRunItem);
 }
 
@@ -78,7 +78,7 @@ bool updateRow(const QTableWidget &table, int row, TaskItem &name, const TaskInf
     if (!sameState)
         show(table.item(row, StatusColumn), texts.enabledLook(task.enabled));
     if (QTableWidgetItem *item = table.item(row, NextRunColumn); !sameTime && item != nullptr)
-        item->setText(texts.text(countdown));
+        item->setText(texts.formatNextRun(countdown));
     if (QTableWidgetItem *item = table.item(row, LastRunColumn); !sameOutcome && item != nullptr) {
         const TaskTexts::Look &look = texts.runStatusLook(task.lastRunStatus);
         show(item, look);

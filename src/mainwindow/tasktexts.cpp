@@ -72,29 +72,6 @@ Countdown counted(Countdown::Form form, qint64 larger, qint64 smaller)
 
 } // namespace
 
-Countdown countdownTo(const QDateTime &when, const QDateTime &now)
-{
-    using Form = Countdown::Form;
-    if (!when.isValid())
-        return {};
-    const qint64 seconds = now.secsTo(when);
-    if (seconds < 0)
-        return {Form::Overdue};
-    if (seconds < minute)
-        return counted(Form::Seconds, 0, seconds);
-    if (seconds < hour)
-        return counted(Form::MinutesAndSeconds, seconds / minute, seconds % minute);
-    if (seconds < day)
-        return counted(Form::HoursAndMinutes, seconds / hour, seconds % hour / minute);
-    return counted(Form::DaysAndHours, seconds / day, seconds % day / hour);
-}
-
-QString formatNextRun(const QDateTime &when, const QDateTime &now)
-{
-    const Countdown countdown = countdownTo(when, now);
-    return filled(pattern(countdown.form), countdown);
-}
-
 QString enabledText(bool enabled)
 {
     return enabled ? QCoreApplication::translate("Scheduler::MCsMainWindow", "Enabled")
@@ -127,8 +104,8 @@ QColor runStatusColor(const QString &status)
     return Qt::gray;
 }
 
-TaskTexts::TaskTexts()
-    : m_now(QDateTime::currentDateTimeUtc()) // times of one zone are compared without looking the zone up
+TaskTexts::TaskTexts(const QDateTime &now)
+    : m_now(now.toUTC()) // daemons send UTC, and times of one zone are compared without looking the zone up
     , m_enabled{enabledText(true), enabledColor(true)}
     , m_disabled{enabledText(false), enabledColor(false)}
 {
@@ -140,10 +117,22 @@ TaskTexts::TaskTexts()
 
 Countdown TaskTexts::countdownTo(const QDateTime &when) const
 {
-    return Scheduler::countdownTo(when, m_now);
+    using Form = Countdown::Form;
+    if (!when.isValid())
+        return {};
+    const qint64 seconds = m_now.secsTo(when);
+    if (seconds < 0)
+        return {Form::Overdue};
+    if (seconds < minute)
+        return counted(Form::Seconds, 0, seconds);
+    if (seconds < hour)
+        return counted(Form::MinutesAndSeconds, seconds / minute, seconds % minute);
+    if (seconds < day)
+        return counted(Form::HoursAndMinutes, seconds / hour, seconds % hour / minute);
+    return counted(Form::DaysAndHours, seconds / day, seconds % day / hour);
 }
 
-QString TaskTexts::text(const Countdown &countdown) const
+QString TaskTexts::formatNextRun(const Countdown &countdown) const
 {
     return filled(m_patterns.value(countdown.form), countdown);
 }

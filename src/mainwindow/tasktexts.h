@@ -20,12 +20,6 @@ struct Countdown {
     friend bool operator==(const Countdown &, const Countdown &) = default;
 };
 
-/// From now to a run, in whole units, truncated; an invalid time is not scheduled, and a past one overdue.
-[[nodiscard]] Countdown countdownTo(const QDateTime &when, const QDateTime &now);
-
-/// The countdown from now to a run as text.
-[[nodiscard]] QString formatNextRun(const QDateTime &when, const QDateTime &now);
-
 /// "Enabled" or "Disabled".
 [[nodiscard]] QString enabledText(bool enabled);
 [[nodiscard]] QColor enabledColor(bool enabled);
@@ -37,8 +31,8 @@ struct Countdown {
 /// The colour by the beginning of the raw status, case-sensitively: unlike the text, an unusual spelling stays grey.
 [[nodiscard]] QColor runStatusColor(const QString &status);
 
-/// The same texts and colours for many rows at one moment. Translations are looked up once, and what is equal in
-/// several rows is one object that they share: ten thousand rows cost little time and memory.
+/// The countdowns, and these texts and colours for many rows at one moment. Translations are looked up once, and what
+/// is equal in several rows is one object that they share: ten thousand rows cost little time and memory.
 class TaskTexts {
 public:
     struct Look {
@@ -46,10 +40,12 @@ public:
         QBrush brush;
     };
 
-    TaskTexts();
+    /// The moment that the countdowns start from.
+    explicit TaskTexts(const QDateTime &now = QDateTime::currentDateTimeUtc());
 
+    /// To a run, in whole units, truncated; an invalid time is not scheduled, and a past one overdue.
     [[nodiscard]] Countdown countdownTo(const QDateTime &when) const;
-    [[nodiscard]] QString text(const Countdown &countdown) const;
+    [[nodiscard]] QString formatNextRun(const Countdown &countdown) const;
     [[nodiscard]] const Look &enabledLook(bool enabled) const;
     [[nodiscard]] const Look &runStatusLook(const QString &status);
     [[nodiscard]] const QString &typeName(const QString &type);

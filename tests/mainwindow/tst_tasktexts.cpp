@@ -6,6 +6,16 @@
 using namespace Scheduler;
 using namespace Qt::StringLiterals;
 
+namespace {
+
+QString formatNextRun(const QDateTime &when, const QDateTime &now)
+{
+    const TaskTexts texts(now);
+    return texts.formatNextRun(texts.countdownTo(when));
+}
+
+} // namespace
+
 class TestTaskTexts : public QObject {
     Q_OBJECT
 
