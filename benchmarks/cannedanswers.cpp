@@ -11,6 +11,9 @@ namespace Bench {
 
 namespace {
 
+/// Listings and counts tell the same.
+constexpr int tasksInGroup = 3;
+
 const QDateTime now = QDateTime::currentDateTimeUtc();
 
 QString iso(qint64 seconds)
@@ -67,7 +70,7 @@ QByteArray groups(const Amounts &amounts)
                                {u"parentId"_s, child ? u"group-%1"_s.arg(number - 1) : QString()},
                                {u"taskType"_s, benchTaskType},
                                {u"displayOrder"_s, number},
-                               {u"taskCount"_s, 3},
+                               {u"taskCount"_s, tasksInGroup},
                                {u"enabledTaskCount"_s, 2},
                                {u"createdAt"_s, iso(-7200)},
                                {u"updatedAt"_s, iso(-7200)}});
@@ -131,7 +134,7 @@ Answers cannedAnswers(const Amounts &amounts)
     QList<QByteArray> lists{tasks(amounts.tasks, 0)};
     if (amounts.moving)
         lists.append(tasks(amounts.tasks, 30)); // far enough for every countdown to read otherwise
-    const QByteArray count = bytes(u"count"_s, 7);
+    const QByteArray count = bytes(u"count"_s, tasksInGroup);
     return {{u"task.listByType"_s, lists},
             {u"task.countByType"_s, {count}},
             {u"task.countByGroupAndType"_s, {count}},

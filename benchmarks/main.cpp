@@ -37,10 +37,10 @@ int main(int argc, char **argv)
 {
     if (argc > 1 && std::strcmp(argv[1], "--daemon") == 0)
         return Bench::runCannedDaemon(argc, argv);
+    qInstallMessageHandler(dropMessage);
     if (argc > 1 && std::strcmp(argv[1], "--child") == 0)
         return Bench::runChild(argc, argv);
 
-    qInstallMessageHandler(dropMessage);
     Scheduler::registerResources();
     const QApplication application(argc, argv);
     QCommandLineParser parser;

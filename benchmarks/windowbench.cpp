@@ -4,11 +4,14 @@
 #include "handexchange.h"
 #include "mcsschedulerclient.h"
 
+#include <QCoreApplication>
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QTableWidget>
 #include <QTextEdit>
 #include <QTreeWidget>
+
+#include <limits>
 
 using namespace Qt::StringLiterals;
 
@@ -18,9 +21,10 @@ namespace {
 
 constexpr int columns = 5;
 
-void paint(const QAbstractScrollArea *view)
+/// Paints what waits for it, and no more.
+void paint()
 {
-    view->viewport()->repaint();
+    QCoreApplication::sendPostedEvents();
 }
 
 /// A table of ready texts, as the floor of filling one.
@@ -41,7 +45,7 @@ public:
             for (int column = 0; column < columns; ++column)
                 m_table.setItem(row, column, new QTableWidgetItem(u"some ready text"_s));
         }
-        paint(&m_table);
+        paint();
     }
 
 private:
@@ -62,7 +66,7 @@ Measured tableRefresh()
         },
         [&] {
             window.window().onFilterByType({});
-            paint(window.table());
+            paint();
         });
 }
 
@@ -77,7 +81,7 @@ Measured statusUpdate(bool moving)
     return timePair([&] { (void)client.listTasks(); },
                     [&] {
                         window.window().onUpdateTaskStatus();
-                        paint(window.table());
+                        paint();
                     });
 }
 
@@ -87,19 +91,22 @@ Measured withTenTimesTheTasks(void (*work)(BenchWindow &))
     BenchWindow few;
     const DaemonProcess more({.tasks = 100000, .moving = true});
     BenchWindow many;
-    return timePair([&] { work(few); }, [&] { work(many); });
+    const Measured measured = timePair([&] { work(few); }, [&] { work(many); });
+    // An answer that takes longer than a request may leaves the table empty, which is fast and no merit.
+    return many.table()->rowCount() == 100000 ? measured
+                                              : Measured{measured.floor, std::numeric_limits<double>::infinity()};
 }
 
 void refreshTable(BenchWindow &window)
 {
     window.window().onFilterByType({});
-    paint(window.table());
+    paint();
 }
 
 void updateStatuses(BenchWindow &window)
 {
     window.window().onUpdateTaskStatus();
-    paint(window.table());
+    paint();
 }
 
 // The window offers the counts only along with a table and a log, which are empty here: two exchanges more.
@@ -130,7 +137,7 @@ void buildBareTree(QTreeWidget &tree, const QJsonArray &groups)
         last = item;
     }
     tree.expandAll();
-    paint(&tree);
+    paint();
 }
 
 Measured groupTree()
@@ -148,7 +155,7 @@ Measured groupTree()
         },
         [&] {
             window.window().onRefreshGroups();
-            paint(window.tree());
+            paint();
         });
 }
 
@@ -164,11 +171,11 @@ Measured activityLog()
     return timePair(
         [&] {
             bare.setHtml(html);
-            paint(&bare);
+            paint();
         },
         [&] {
             window.window().onRefreshAuditLog();
-            paint(window.log());
+            paint();
         });
 }
 

@@ -1,22 +1,38 @@
 #include "groupmerge.h"
 
-#include <QMap>
+#include <algorithm>
 
 namespace Scheduler {
 
+namespace {
+
+/// The groups by name, those of one name in their old order. Pointers, since a record is large to move.
+QList<const GroupInfo *> sortedByName(const QList<GroupInfo> &groups)
+{
+    QList<const GroupInfo *> sorted;
+    sorted.reserve(groups.size());
+    for (const GroupInfo &group : groups)
+        sorted.append(&group);
+    std::stable_sort(sorted.begin(), sorted.end(),
+                     [](const GroupInfo *left, const GroupInfo *right) { return left->name < right->name; });
+    return sorted;
+}
+
+} // namespace
+
 QList<GroupInfo> mergedByName(const QList<GroupInfo> &groups)
 {
-    QMap<QString, GroupInfo> byName;
-    for (const GroupInfo &group : groups) {
-        const auto known = byName.find(group.name);
-        if (known == byName.end()) {
-            byName.insert(group.name, group);
+    QList<GroupInfo> merged;
+    merged.reserve(groups.size());
+    for (const GroupInfo *group : sortedByName(groups)) {
+        if (merged.isEmpty() || merged.last().name != group->name) {
+            merged.append(*group);
             continue;
         }
-        known->taskCount += group.taskCount;
-        known->enabledTaskCount += group.enabledTaskCount;
+        merged.last().taskCount += group->taskCount;
+        merged.last().enabledTaskCount += group->enabledTaskCount;
     }
-    return byName.values();
+    return merged;
 }
 
 } // namespace Scheduler

@@ -14,6 +14,19 @@ namespace {
 
 constexpr int shownEntries = 100;
 
+/// In one edit, so that the view is laid out once and not for each line; and with the scroll bar in its place, which
+/// would otherwise come with the last line and have all of them laid out twice more for the narrower view.
+void appendLines(QTextEdit &view, const QStringList &lines)
+{
+    view.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
+    QTextCursor edit(view.document());
+    edit.beginEditBlock();
+    for (const QString &line : lines)
+        view.append(line);
+    edit.endEditBlock();
+    view.setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+}
+
 } // namespace
 
 void MCsMainWindow::refreshAuditLog()
@@ -33,12 +46,10 @@ void MCsMainWindow::refreshAuditLog()
         return;
     m_ui->logView->clear();
     newestFirst.resize(qMin<qsizetype>(newestFirst.size(), shownEntries)); // whatever the daemon makes of the limit
-    // In one edit, so that the view is laid out once and not for each line.
-    QTextCursor edit(m_ui->logView->document());
-    edit.beginEditBlock();
-    for (auto entry = newestFirst.crbegin(); entry != newestFirst.crend(); ++entry)
-        m_ui->logView->append(formatAuditEntry(*entry));
-    edit.endEditBlock();
+    QStringList lines;
+    for (const AuditLogEntry &entry : std::as_const(newestFirst))
+        lines.prepend(formatAuditEntry(entry));
+    appendLines(*m_ui->logView, lines);
     // Within an edit the view does not follow what is appended.
     QScrollBar *position = m_ui->logView->verticalScrollBar();
     position->setValue(position->maximum());

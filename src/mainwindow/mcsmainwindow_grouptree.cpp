@@ -1,5 +1,6 @@
 #include "mcsmainwindow.h"
 
+#include "groupitem.h"
 #include "groupmerge.h"
 #include "mcsschedulerclient.h"
 #include "ui_mcsmainwindow.h"
@@ -15,42 +16,11 @@ namespace Scheduler {
 
 namespace {
 
-constexpr int tintAlpha = 30;
-
-QString itemText(const QString &name, int count)
+// Only what is in sight is repainted. Were the item to tell the tree of its change, that would measure it as well.
+void showCount(QTreeWidget &tree, QTreeWidgetItem *item, int count)
 {
-    return MCsMainWindow::tr("%1 (%2)").arg(name, QString::number(count));
-}
-
-void tint(QTreeWidgetItem &item, const QString &colorName)
-{
-    if (!QColor::isValidColorName(colorName)) // asked first, since QColor warns of a name that it does not know
-        return;
-    QColor color(colorName);
-    item.setForeground(0, color);
-    color.setAlpha(tintAlpha);
-    item.setBackground(0, color);
-}
-
-QTreeWidgetItem *newItem(const GroupInfo &group)
-{
-    auto *item = new QTreeWidgetItem;
-    item->setText(0, itemText(group.name, group.taskCount));
-    item->setData(0, MCsGroupTreeWidget::GroupIdRole, group.id);
-    item->setData(0, MCsGroupTreeWidget::GroupTaskCountRole, group.taskCount);
-    item->setData(0, MCsGroupTreeWidget::GroupNameRole, group.name);
-    tint(*item, group.color);
-    return item;
-}
-
-// Every change of an item makes its view lay out and repaint it, so that what stands is left alone.
-void showCount(QTreeWidgetItem &item, int count)
-{
-    const QString text = itemText(MCsGroupTreeWidget::plainName(item), count);
-    if (item.text(0) != text)
-        item.setText(0, text);
-    if (item.data(0, MCsGroupTreeWidget::GroupTaskCountRole) != count)
-        item.setData(0, MCsGroupTreeWidget::GroupTaskCountRole, count);
+    if (item != nullptr && item->type() == GroupItem::Type && static_cast<GroupItem *>(item)->setTaskCount(count))
+        tree.viewport()->update(tree.visualItemRect(item));
 }
 
 /// Parents that form a circle would take their items out of the tree altogether.
@@ -87,7 +57,7 @@ void MCsMainWindow::fillGroupTree(const QList<GroupInfo> &groups)
     QHash<QString, QTreeWidgetItem *> itemsById;
     QList<QTreeWidgetItem *> items;
     for (const GroupInfo &group : groups) {
-        items.append(newItem(group));
+        items.append(new GroupItem(group));
         itemsById.insert(group.id, items.last());
     }
     // A second pass, so that a child may be listed before its parent. What is no child goes into the tree last and at
@@ -127,8 +97,7 @@ void MCsMainWindow::updateGroupTaskCounts()
         // The tree may have been rebuilt while the request waited.
         QTreeWidgetItem *item =
             group.index.isValid() ? m_ui->groupTree->itemFromIndex(group.index) : findGroupItem(group.id);
-        if (item != nullptr)
-            showCount(*item, count);
+        showCount(*m_ui->groupTree, item, count);
     }
 }
 

@@ -1,8 +1,9 @@
 #include "taskrows.h"
 
-#include "tasktexts.h"
+#include "taskcell.h"
 
 #include <QHash>
+#include <QSet>
 #include <QSignalBlocker>
 #include <QTableWidget>
 
@@ -10,84 +11,63 @@ namespace Scheduler {
 
 namespace {
 
-enum Column : int { NameColumn, TypeColumn, StatusColumn, NextRunColumn, LastRunColumn };
-
-/// The first item of a row. It knows what the row shows, so that an update need not ask each item.
-class TaskItem : public QTableWidgetItem {
+/// Few types and statuses stand in many tasks, each of which brings a text of its own. The rows share one.
+class SharedTexts {
 public:
-    static constexpr int Type = QTableWidgetItem::UserType + 1;
-
-    explicit TaskItem(const TaskInfo &task)
-        : QTableWidgetItem(task.name, Type)
-        , id(task.id)
+    [[nodiscard]] QString shared(const QString &text)
     {
-        setData(Qt::UserRole, task.id);
+        if (m_texts.size() >= limit) // a daemon may as well give each task a status in words of its own
+            return text;
+        return *m_texts.insert(text);
     }
 
-    const QString id;
-    bool enabled = false;
-    Countdown countdown;
-    QString lastRunStatus;
+private:
+    static constexpr qsizetype limit = 1000;
+    QSet<QString> m_texts;
 };
 
-TaskItem *taskItem(const QTableWidget &table, int row)
+TaskCell *firstCell(const QTableWidget &table, int row)
 {
     QTableWidgetItem *item = table.item(row, NameColumn);
-    return item != nullptr && item->type() == TaskItem::Type ? static_cast<TaskItem *>(item) : nullptr;
+    return item != nullptr && item->type() == TaskCell::Type ? static_cast<TaskCell *>(item) : nullptr;
 }
 
-QTableWidgetItem *coloredItem(const TaskTexts::Look &look)
+/// What the row shows. Cells that are there stay: a refresh mostly brings what was shown before.
+TaskRow &ensuredRow(QTableWidget &table, int row)
 {
-    auto *item = new QTableWidgetItem(look.text);
-    item->setForeground(look.brush);
-    return item;
+    if (const TaskCell *cell = firstCell(table, row); cell != nullptr)
+        return *cell->row();
+    const TaskCell::Row shown(new TaskRow);
+    for (const TaskColumn column : {NameColumn, TypeColumn, StatusColumn, NextRunColumn, LastRunColumn})
+        table.setItem(row, column, new TaskCell(shown, column));
+    return *shown;
 }
 
-void fillRow(QTableWidget &table, int row, const TaskInfo &task, TaskTexts &texts)
+template <typename Value> bool change(Value &value, const Value &newValue)
 {
-    auto *name = new TaskItem(task);
-    name->enabled = task.enabled;
-    name->countdown = texts.countdownTo(task.nextRunAt);
-    name->lastRunStatus = task.lastRunStatus;
-    const TaskTexts::Look &lastRun = texts.runStatusLook(task.lastRunStatus);
-    QTableWidgetItem *lastRunItem = coloredItem(lastRun);
-    lastRunItem->setToolTip(lastRun.text);
-
-    table.setItem(row, NameColumn, name);
-    table.setItem(row, TypeColumn, new QTableWidgetItem(texts.typeName(task.type)));
-    table.setItem(row, StatusColumn, coloredItem(texts.enabledLook(task.enabled)));
-    table.setItem(row, NextRunColumn, new QTableWidgetItem(texts.formatNextRun(name->countdown)));
-    table.setItem(row, LastRunColumn, lastRunItem);
+    if (value == newValue)
+        return false;
+    value = newValue;
+    return true;
 }
 
-void show(QTableWidgetItem *item, const TaskTexts::Look &look)
+/// Writes what changes by itself as time goes by. True when something has changed.
+bool writeStatus(TaskRow &row, const TaskInfo &task, const QDateTime &now, SharedTexts &texts)
 {
-    if (item == nullptr)
-        return;
-    item->setForeground(look.brush);
-    item->setText(look.text);
+    bool changed = change(row.enabled, task.enabled);
+    changed |= change(row.nextRun, countdown(now, task.nextRunAt));
+    if (row.lastRunStatus == task.lastRunStatus)
+        return changed;
+    row.lastRunStatus = texts.shared(task.lastRunStatus);
+    return true;
 }
 
-/// True when something has changed.
-bool updateRow(const QTableWidget &table, int row, TaskItem &name, const TaskInfo &task, TaskTexts &texts)
+void write(TaskRow &row, const TaskInfo &task, const QDateTime &now, SharedTexts &texts)
 {
-    const Countdown countdown = texts.countdownTo(task.nextRunAt);
-    const bool sameState = name.enabled == task.enabled;
-    const bool sameTime = name.countdown == countdown;
-    const bool sameOutcome = name.lastRunStatus == task.lastRunStatus;
-    if (!sameState)
-        show(table.item(row, StatusColumn), texts.enabledLook(task.enabled));
-    if (QTableWidgetItem *item = table.item(row, NextRunColumn); !sameTime && item != nullptr)
-        item->setText(texts.formatNextRun(countdown));
-    if (QTableWidgetItem *item = table.item(row, LastRunColumn); !sameOutcome && item != nullptr) {
-        const TaskTexts::Look &look = texts.runStatusLook(task.lastRunStatus);
-        show(item, look);
-        item->setToolTip(look.text);
-    }
-    name.enabled = task.enabled;
-    name.countdown = countdown;
-    name.lastRunStatus = task.lastRunStatus;
-    return !sameState || !sameTime || !sameOutcome;
+    change(row.id, task.id);
+    change(row.name, task.name);
+    row.type = texts.shared(task.type);
+    writeStatus(row, task, now, texts);
 }
 
 } // namespace
@@ -96,31 +76,30 @@ void fillTaskRows(QTableWidget &table, const QList<TaskInfo> &tasks)
 {
     const int count = static_cast<int>(tasks.size());
     table.setRowCount(count);
-    TaskTexts texts;
+    const QDateTime now = QDateTime::currentDateTimeUtc();
+    SharedTexts texts;
     {
         const QSignalBlocker quiet(table.model());
         for (int row = 0; row < count; ++row)
-            fillRow(table, row, tasks.at(row), texts);
+            write(ensuredRow(table, row), tasks.at(row), now, texts);
     }
     table.viewport()->update();
 }
 
 void updateTaskRows(QTableWidget &table, const QList<TaskInfo> &tasks)
 {
-    QHash<QString, int> rows;
+    QHash<QString, TaskRow *> rows;
     rows.reserve(table.rowCount());
     for (int row = 0; row < table.rowCount(); ++row) {
-        if (const TaskItem *item = taskItem(table, row); item != nullptr)
-            rows.insert(item->id, row);
+        if (const TaskCell *cell = firstCell(table, row); cell != nullptr)
+            rows.insert(cell->row()->id, cell->row().get());
     }
-    TaskTexts texts;
+    const QDateTime now = QDateTime::currentDateTimeUtc();
+    SharedTexts texts;
     bool changed = false;
-    {
-        const QSignalBlocker quiet(table.model());
-        for (const TaskInfo &task : tasks) {
-            if (const auto row = rows.constFind(task.id); row != rows.constEnd())
-                changed = updateRow(table, *row, *taskItem(table, *row), task, texts) || changed;
-        }
+    for (const TaskInfo &task : tasks) {
+        if (TaskRow *row = rows.value(task.id); row != nullptr)
+            changed |= writeStatus(*row, task, now, texts);
     }
     if (changed)
         table.viewport()->update();
@@ -129,7 +108,7 @@ void updateTaskRows(QTableWidget &table, const QList<TaskInfo> &tasks)
 bool hasNoTaskRows(const QTableWidget &table)
 {
     for (int row = 0; row < table.rowCount(); ++row) {
-        if (taskItem(table, row) != nullptr)
+        if (firstCell(table, row) != nullptr)
             return false;
     }
     return true;

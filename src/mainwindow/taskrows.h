@@ -12,7 +12,7 @@ namespace Scheduler {
 // countdown to the next run, and the outcome of the last one.
 //
 // Both functions write without a signal for each cell and repaint the view once: with ten thousand rows the signals
-// cost more than all the rest.
+// would cost more than all the rest.
 
 /// Makes the table show these tasks and no others. Selection and scroll position stay where they are, by row.
 void fillTaskRows(QTableWidget &table, const QList<TaskInfo> &tasks);

@@ -1,9 +1,7 @@
 #pragma once
 
-#include <QBrush>
 #include <QColor>
 #include <QDateTime>
-#include <QHash>
 #include <QString>
 
 namespace Scheduler {
@@ -20,6 +18,11 @@ struct Countdown {
     friend bool operator==(const Countdown &, const Countdown &) = default;
 };
 
+/// To a run, in whole units, truncated; an invalid time is not scheduled, and a past one overdue. Two times in UTC,
+/// which daemons send, are compared without a look at the time zone.
+[[nodiscard]] Countdown countdown(const QDateTime &now, const QDateTime &when);
+[[nodiscard]] QString formatNextRun(const Countdown &countdown);
+
 /// "Enabled" or "Disabled".
 [[nodiscard]] QString enabledText(bool enabled);
 [[nodiscard]] QColor enabledColor(bool enabled);
@@ -30,33 +33,5 @@ struct Countdown {
 
 /// The colour by the beginning of the raw status, case-sensitively: unlike the text, an unusual spelling stays grey.
 [[nodiscard]] QColor runStatusColor(const QString &status);
-
-/// The countdowns, and these texts and colours for many rows at one moment. Translations are looked up once, and what
-/// is equal in several rows is one object that they share: ten thousand rows cost little time and memory.
-class TaskTexts {
-public:
-    struct Look {
-        QString text;
-        QBrush brush;
-    };
-
-    /// The moment that the countdowns start from.
-    explicit TaskTexts(const QDateTime &now = QDateTime::currentDateTimeUtc());
-
-    /// To a run, in whole units, truncated; an invalid time is not scheduled, and a past one overdue.
-    [[nodiscard]] Countdown countdownTo(const QDateTime &when) const;
-    [[nodiscard]] QString formatNextRun(const Countdown &countdown) const;
-    [[nodiscard]] const Look &enabledLook(bool enabled) const;
-    [[nodiscard]] const Look &runStatusLook(const QString &status);
-    [[nodiscard]] const QString &typeName(const QString &type);
-
-private:
-    QDateTime m_now;
-    QHash<Countdown::Form, QString> m_patterns;
-    Look m_enabled;
-    Look m_disabled;
-    QHash<QString, Look> m_runStatuses;
-    QHash<QString, QString> m_typeNames;
-};
 
 } // namespace Scheduler

@@ -33,6 +33,8 @@ class TestGroupTree : public QObject {
 
 private slots:
     void groupsStandUnderTheirParents();
+    void anItemWithoutANameIsCalledByItsTextWithoutTheCount();
+    void aBackgroundReplacesTheTintOfAGroup();
     void parentsThatFormACircleAreShownAllTheSame();
     void colorsTintTheItems_data();
     void colorsTintTheItems();
@@ -56,6 +58,29 @@ void TestGroupTree::groupsStandUnderTheirParents()
     QCOMPARE(lines(*tree), QStringList({u"Parent (x) (0)"_s, u"-Child (2)"_s, u"Orphan (0)"_s}));
     QVERIFY(tree->topLevelItem(0)->isExpanded());
     QCOMPARE(MCsGroupTreeWidget::plainName(*tree->topLevelItem(0)), u"Parent (x)"_s);
+}
+
+void TestGroupTree::anItemWithoutANameIsCalledByItsTextWithoutTheCount()
+{
+    QTreeWidgetItem item({u"A (b) (4)"_s});
+    QCOMPARE(MCsGroupTreeWidget::plainName(item), u"A"_s);
+    item.setData(0, MCsGroupTreeWidget::GroupNameRole, u"A (b)"_s);
+    QCOMPARE(MCsGroupTreeWidget::plainName(item), u"A (b)"_s);
+}
+
+void TestGroupTree::aBackgroundReplacesTheTintOfAGroup()
+{
+    WindowFixture fixture;
+    QVERIFY(fixture.connectWindow());
+    fixture.setGroups({groupJson(u"a"_s, u"A"_s, {{u"color"_s, u"#ff0000"_s}})});
+    click(fixture.window.get(), "refreshGroupButton");
+    QTreeWidgetItem *item = fixture.widget<QTreeWidget>("groupTree")->topLevelItem(0);
+    QCOMPARE(item->background(0).color(), QColor(255, 0, 0, 30));
+    item->setBackground(0, QColor(Qt::blue));
+    QCOMPARE(item->background(0).color(), QColor(Qt::blue));
+    item->setBackground(0, QBrush());
+    QCOMPARE(item->background(0).style(), Qt::NoBrush);
+    QCOMPARE(item->foreground(0).color(), QColor(255, 0, 0));
 }
 
 void TestGroupTree::parentsThatFormACircleAreShownAllTheSame()

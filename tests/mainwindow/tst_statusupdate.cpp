@@ -209,9 +209,11 @@ void TestStatusUpdate::writesIntoTheRowThatBearsTheIdNow()
     // While the tick waits the rows change places.
     fixture.daemon.onRequest(u"task.listByType"_s, [&fixture](const QJsonObject &) {
         fixture.daemon.onRequest(u"task.listByType"_s, {});
-        QTableWidgetItem *first = fixture.table->takeItem(0, 0);
-        fixture.table->setItem(0, 0, fixture.table->takeItem(1, 0));
-        fixture.table->setItem(1, 0, first);
+        for (int column = 0; column < fixture.table->columnCount(); ++column) {
+            QTableWidgetItem *first = fixture.table->takeItem(0, column);
+            fixture.table->setItem(0, column, fixture.table->takeItem(1, column));
+            fixture.table->setItem(1, column, first);
+        }
     });
     fixture.setTasks({taskJson(u"t1"_s, u"One"_s, {{u"enabled"_s, false}})});
     fixture.tick();
@@ -222,8 +224,8 @@ void TestStatusUpdate::writesIntoTheRowThatBearsTheIdNow()
 void TestStatusUpdate::ofTwoRowsWithOneIdTheLaterIsUpdated()
 {
     TickedWindow fixture;
+    fixture.setTasks({taskJson(u"t2"_s, u"One"_s), taskJson(u"t2"_s, u"Two"_s)});
     QVERIFY(fixture.connect());
-    fixture.table->item(0, 0)->setData(Qt::UserRole, u"t2"_s);
     fixture.setTasks({taskJson(u"t2"_s, u"Two"_s, {{u"enabled"_s, false}})});
     fixture.tick();
     QCOMPARE(fixture.text(0, 2), u"Enabled"_s);

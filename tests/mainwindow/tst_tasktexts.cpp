@@ -10,8 +10,7 @@ namespace {
 
 QString formatNextRun(const QDateTime &when, const QDateTime &now)
 {
-    const TaskTexts texts(now);
-    return texts.formatNextRun(texts.countdownTo(when));
+    return Scheduler::formatNextRun(countdown(now, when));
 }
 
 } // namespace
