@@ -14,8 +14,9 @@ using namespace Scheduler::DevDaemon;
 
 void print(std::FILE *stream, const QString &text)
 {
-    std::fprintf(stream, "%s\n", qUtf8Printable(text));
-    std::fflush(stream);
+    // Who cannot be told cannot be told of that either.
+    (void)std::fprintf(stream, "%s\n", qUtf8Printable(text));
+    (void)std::fflush(stream);
 }
 
 int runDaemon(const DaemonOptions &options)

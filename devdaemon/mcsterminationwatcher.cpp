@@ -50,7 +50,7 @@ MCsTerminationWatcher::MCsTerminationWatcher(QObject *parent)
 MCsTerminationWatcher::~MCsTerminationWatcher()
 {
     for (const int number : watchedSignals)
-        std::signal(number, SIG_DFL);
+        (void)std::signal(number, SIG_DFL);
     for (int &end : signalPipe) {
         if (end >= 0)
             ::close(end);
