@@ -1,6 +1,7 @@
 #include "mcsipcconnection.h"
 
 #include "mcslogger.h"
+#include "socketpeer.h"
 #include "wireprotocol.h"
 
 #include <QDateTime>
@@ -91,6 +92,7 @@ std::optional<QString> MCsIPCConnection::attemptConnection()
 {
     if (m_socket != nullptr)
         m_socket->deleteLater();
+    m_refusal.reset();
     m_socket = new QLocalSocket(this);
     connect(m_socket, &QLocalSocket::connected, this, &MCsIPCConnection::onConnected);
     connect(m_socket, &QLocalSocket::disconnected, this, &MCsIPCConnection::onDisconnected);
@@ -101,7 +103,7 @@ std::optional<QString> MCsIPCConnection::attemptConnection()
     socket->connectToServer(m_serverName, QIODevice::ReadWrite);
     if (socket->waitForConnected(socketWaitMs))
         return std::nullopt;
-    return socket->errorString();
+    return m_refusal ? m_refusal : socket->errorString();
 }
 
 void MCsIPCConnection::disconnectFromServer()
@@ -229,6 +231,14 @@ void MCsIPCConnection::dropRequestTimer(const QString &requestId)
 void MCsIPCConnection::onConnected()
 {
     const BusyGuard guard(this);
+    if (isConnected())
+        m_refusal = strangerBehind(m_socket->socketDescriptor());
+    if (m_refusal) {
+        // Nothing has been sent yet, and nothing that it may have sent is read. To everybody else it never connected.
+        m_socket->disconnect(this);
+        m_socket->abort();
+        return;
+    }
     MCsLogger::instance().debug(logSource(), u"Connected to IPC server: %1"_s.arg(m_serverName));
     emit connected();
 }

@@ -16,6 +16,8 @@ namespace Scheduler {
 
 /// The client end of the wire protocol: one local socket, framing, request ids and one synchronous operation.
 ///
+/// A server that another user runs is turned away before anything is sent to it: that attempt has failed.
+///
 /// It knows nothing of commands or of registration. One object serves one connection; whoever owns it makes a new one
 /// for the next, and releases this one with deleteLater(). A wait of sendRequest() keeps the object alive: Qt carries
 /// out a deferred delete that was asked for inside a nested event loop in that same loop, so the object puts its own
@@ -70,6 +72,7 @@ private:
     QString m_serverName;
     QLocalSocket *m_socket = nullptr;
     MCsFrameBuffer m_readBuffer;
+    std::optional<QString> m_refusal; ///< why the current attempt's server was turned away
     int m_requestCounter = 0;
     /// Timers of requests that are answered through responseReceived alone; sendRequest() waits with its own.
     QMap<QString, QTimer *> m_requestTimers;
