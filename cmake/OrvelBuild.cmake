@@ -34,6 +34,11 @@ if(ORVEL_SANITIZE)
   target_link_options(orvel_build_options INTERFACE -fsanitize=address,undefined)
 endif()
 
+if(ORVEL_SANITIZE_THREADS)
+  target_compile_options(orvel_build_options INTERFACE -fsanitize=thread -fno-omit-frame-pointer -O1)
+  target_link_options(orvel_build_options INTERFACE -fsanitize=thread)
+endif()
+
 # orvel_add_library(<name> SOURCES <file>... LINK <target>...)
 #
 # Makes one folder a static library. Whoever links it sees that folder's headers and the headers of what it links,
