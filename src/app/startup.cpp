@@ -9,6 +9,7 @@
 #include <QApplication>
 #include <QCommandLineParser>
 #include <QFile>
+#include <QFileInfo>
 #include <QIcon>
 
 using namespace Qt::StringLiterals;
@@ -83,7 +84,8 @@ std::optional<QString> readParameters(const QString &path)
         showStartError(QObject::tr("Program parameter JSON file not found!"));
         return std::nullopt;
     }
-    if (!file.open(QIODevice::ReadOnly | QIODevice::Text)) {
+    // A pipe that nobody writes to would keep the start waiting without a word, and a device may never end.
+    if (!QFileInfo(file).isFile() || !file.open(QIODevice::ReadOnly | QIODevice::Text)) {
         showStartError(QObject::tr("Failed to open program parameter JSON file!"));
         return std::nullopt;
     }

@@ -1,6 +1,7 @@
 #include "logcapture.h"
 #include "mcslogger.h"
 #include "modaldriver.h"
+#include "programparameters.h"
 #include "resources.h"
 #include "startup.h"
 #include "testmain.h"
@@ -10,6 +11,10 @@
 #include <QFile>
 #include <QIcon>
 #include <QTemporaryDir>
+
+#ifdef Q_OS_UNIX
+#include <sys/stat.h>
+#endif
 
 using namespace Scheduler;
 using namespace TestSupport;
@@ -61,6 +66,7 @@ private slots:
     void theParameterFileIsReadAsText();
     void aParameterFileThatCannotBeUsedIsReported_data();
     void aParameterFileThatCannotBeUsedIsReported();
+    void aParameterFileOfAHundredMegabytesIsRead();
     void aLaterOptionBeatsAnEarlierOne();
     void theApplicationIsIdentified();
     void debugTextBesideTheExecutableTurnsDebugEntriesOn();
@@ -153,6 +159,9 @@ void TestStartup::theParameterFileIsReadAsText_data()
     QTest::newRow("malformed, not trimmed") << QByteArray("  {]\n ") << u"  {]\n "_s;
     QTest::newRow("utf-8") << QByteArray("{\"é\":\"会\"}") << u"{\"é\":\"会\"}"_s;
     QTest::newRow("line ends of text mode") << QByteArray("{\r\n}") << u"{\n}"_s;
+    QTest::newRow("not utf-8") << QByteArray("{\"\xE9\": 1}") << u"{\"\uFFFD\": 1}"_s;
+    QTest::newRow("with a byte order mark") << QByteArray("\xEF\xBB\xBF{}") << u"{}"_s;
+    QTest::newRow("zero bytes") << QByteArray("{\0}", 3) << u"{\0}"_s;
 }
 
 void TestStartup::theParameterFileIsReadAsText()
@@ -186,6 +195,15 @@ void TestStartup::aParameterFileThatCannotBeUsedIsReported_data()
     QTest::newRow("a directory") << m_directory.path() << u"Failed to open program parameter JSON file!"_s;
     QTest::newRow("empty") << fileWith(u"empty"_s, {}) << empty;
     QTest::newRow("blanks and line ends") << fileWith(u"blanks"_s, " \r\n\t\n") << empty;
+#ifdef Q_OS_UNIX
+    const QString pipe = m_directory.filePath(u"pipe"_s);
+    if (::mkfifo(QFile::encodeName(pipe).constData(), 0600) == 0)
+        QTest::newRow("a pipe that nobody writes to") << pipe << u"Failed to open program parameter JSON file!"_s;
+    QTest::newRow("a device without an end") << u"/dev/zero"_s << u"Failed to open program parameter JSON file!"_s;
+    const QString link = m_directory.filePath(u"link"_s);
+    QFile::link(m_directory.filePath(u"missing"_s), link);
+    QTest::newRow("a link that leads nowhere") << link << u"Failed to open program parameter JSON file!"_s;
+#endif
 }
 
 void TestStartup::aParameterFileThatCannotBeUsedIsReported()
@@ -198,6 +216,22 @@ void TestStartup::aParameterFileThatCannotBeUsedIsReported()
     QVERIFY(!readCommandLine(completeCommandLine() << u"--program-parameters-file"_s << path));
     QVERIFY2(driver.finished(), driver.problems());
     QCOMPARE(log.lines(), startLines(u"task_type.test"_s, path));
+}
+
+void TestStartup::aParameterFileOfAHundredMegabytesIsRead()
+{
+    constexpr qsizetype size = 100'000'000;
+    const QByteArray content = R"({"padding": ")" + QByteArray(size, 'x') + R"(", "frameRate": {"defaultValue": 25}})";
+    QFile file(m_directory.filePath(u"large.json"_s));
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    QCOMPARE(file.write(content), content.size());
+    file.close();
+    const auto values = readCommandLine(completeCommandLine() << u"--program-parameters-file"_s << file.fileName());
+    QVERIFY(file.remove());
+    QVERIFY(values);
+    QCOMPARE(values->programParametersJson.size(), content.size());
+    const QJsonObject parameters = parseProgramParameters(values->programParametersJson);
+    QCOMPARE(parameters["frameRate"_L1]["defaultValue"_L1].toInt(), 25);
 }
 
 void TestStartup::aLaterOptionBeatsAnEarlierOne()
