@@ -13,6 +13,28 @@ QString formatNextRun(const QDateTime &when, const QDateTime &now)
     return Scheduler::formatNextRun(countdown(now, when));
 }
 
+/// The process is in that time zone while this lives.
+class InZone {
+public:
+    explicit InZone(const char *name)
+        : m_wasSet(qEnvironmentVariableIsSet("TZ"))
+        , m_before(qgetenv("TZ"))
+    {
+        qputenv("TZ", name);
+        tzset();
+    }
+    ~InZone()
+    {
+        m_wasSet ? qputenv("TZ", m_before) : qunsetenv("TZ");
+        tzset();
+    }
+    Q_DISABLE_COPY_MOVE(InZone)
+
+private:
+    bool m_wasSet;
+    QByteArray m_before;
+};
+
 } // namespace
 
 class TestTaskTexts : public QObject {
@@ -23,7 +45,9 @@ private slots:
     void countsDownInWholeUnits();
     void anInvalidTimeIsNotScheduled();
     void comparesTimesOfDifferentZones();
+    void countsDownAcrossADaylightSavingChange_data();
     void countsDownAcrossADaylightSavingChange();
+    void noCountdownIsNegativeWhateverTheClockDoes();
     void aStatusHasAWordAndAColour_data();
     void aStatusHasAWordAndAColour();
     void enabledTasksAreGreenAndDisabledOnesGrey();
@@ -75,16 +99,46 @@ void TestTaskTexts::comparesTimesOfDifferentZones()
     QCOMPARE(formatNextRun(when, now), u"30m 0s left"_s);
 }
 
+void TestTaskTexts::countsDownAcrossADaylightSavingChange_data()
+{
+    QTest::addColumn<QDateTime>("now");
+    QTest::addColumn<QDateTime>("when");
+    QTest::addColumn<QString>("text");
+    // Times of the zone's clock, which goes from 2 to 3 on the first day and from 3 to 2 on the second.
+    const QDate spring(2026, 3, 29);
+    const QDate autumn(2026, 10, 25);
+    const InZone zone("Europe/Berlin");
+    QTest::newRow("an hour is left out") << QDateTime(spring, QTime(1, 30)) << QDateTime(spring, QTime(3, 30))
+                                         << u"1h 0m left"_s;
+    QTest::newRow("a day of 23 hours") << QDateTime(spring, QTime(0, 0)) << QDateTime(spring.addDays(1), QTime(0, 0))
+                                       << u"23h 0m left"_s;
+    QTest::newRow("an hour comes twice") << QDateTime(autumn, QTime(1, 30)) << QDateTime(autumn, QTime(3, 30))
+                                         << u"3h 0m left"_s;
+    QTest::newRow("a day of 25 hours") << QDateTime(autumn, QTime(0, 0)) << QDateTime(autumn.addDays(1), QTime(0, 0))
+                                       << u"1d 1h left"_s;
+    QTest::newRow("past, though the clock shows less")
+        << QDateTime(autumn, QTime(1, 15), Qt::UTC).toLocalTime()
+        << QDateTime::fromString(u"2026-10-25T02:45:00+02:00"_s, Qt::ISODate) << u"Overdue"_s;
+}
+
 void TestTaskTexts::countsDownAcrossADaylightSavingChange()
 {
-    qputenv("TZ", "Europe/Berlin"); // its clock goes from 2 to 3 on that day
-    tzset();
-    const QDateTime before(QDate(2026, 3, 29), QTime(1, 30));
-    const QDateTime after(QDate(2026, 3, 29), QTime(3, 30));
-    const QString text = formatNextRun(after, before);
-    qunsetenv("TZ");
-    tzset();
-    QCOMPARE(text, u"1h 0m left"_s);
+    QFETCH(QDateTime, now);
+    QFETCH(QDateTime, when);
+    const InZone zone("Europe/Berlin");
+    QTEST(formatNextRun(when, now), "text");
+}
+
+void TestTaskTexts::noCountdownIsNegativeWhateverTheClockDoes()
+{
+    const QDateTime when(QDate(2026, 3, 29), QTime(1, 0), Qt::UTC);
+    for (const qint64 step : {qint64{1}, qint64{59}, qint64{3600}, qint64{8} * 3600, qint64{86400} * 365}) {
+        for (int i = -100; i <= 100; ++i) {
+            const QString text = formatNextRun(when, when.addSecs(i * step));
+            QVERIFY2(!text.contains(u'-'), qPrintable(text));
+            QCOMPARE(text == "Overdue"_L1, i > 0);
+        }
+    }
 }
 
 void TestTaskTexts::aStatusHasAWordAndAColour_data()
