@@ -1,74 +1,17 @@
 """Tries the checks of this folder on small source trees that break the rules, and on such as keep them."""
 
-import shutil
 import struct
 import sys
-import tempfile
 import unittest
 import zlib
-from pathlib import Path
 
 import check_catalogues
 import check_images
-import check_includes
 import check_waits
+from checktest import CheckTest
 from pngpixels import read_png
 
 LUPDATE = None
-
-
-class CheckTest(unittest.TestCase):
-    """A test with a source tree of its own."""
-
-    def setUp(self):
-        self.root = Path(tempfile.mkdtemp())
-        self.addCleanup(shutil.rmtree, self.root)
-        (self.root / "src").mkdir()
-
-    def write(self, name, text):
-        path = self.root / name
-        path.parent.mkdir(parents=True, exist_ok=True)
-        path.write_text(text, encoding="utf-8")
-
-    def assert_findings(self, findings, *parts):
-        """As many findings as parts, each with its part in it, in any order."""
-        self.assertEqual(len(findings), len(parts), findings)
-        for part in parts:
-            self.assertTrue(any(part in finding for finding in findings), f"{part!r} is not in {findings}")
-
-
-class IncludesTest(CheckTest):
-    def findings(self):
-        return check_includes.check(self.root)
-
-    def test_lower_and_own_headers_and_those_of_the_system_may_be_included(self):
-        self.write("src/logging/mcslogger.h", "")
-        self.write("src/client/records.h", "")
-        self.write("src/client/records.cpp", '#include "records.h"\n#include "mcslogger.h"\n#include <QString>\n')
-        self.assert_findings(self.findings())
-
-    def test_a_header_of_a_higher_folder_is_found(self):
-        self.write("src/client/records.h", "")
-        self.write("src/ipc/wireprotocol.cpp", '\n#include "records.h"\n')
-        self.assert_findings(self.findings(), "src/ipc/wireprotocol.cpp:2")
-
-    def test_a_header_of_a_neighbour_is_found_also_in_angle_brackets(self):
-        self.write("src/style/sheets.h", "")
-        self.write("src/client/records.cpp", "#include <sheets.h>\n")
-        self.assert_findings(self.findings(), "src/client must not see src/style")
-
-    def test_the_header_of_a_form_belongs_to_the_folder_of_the_form(self):
-        self.write("src/mainwindow/mcsmainwindow.ui", "")
-        self.write("src/groupeditor/dialog.cpp", '#include "ui_mcsmainwindow.h"\n')
-        self.assert_findings(self.findings(), "src/groupeditor must not see src/mainwindow")
-
-    def test_an_include_that_climbs_is_found_also_in_the_tests(self):
-        self.write("tests/ipc/test.cpp", '#include "../support/testmain.h"\n')
-        self.assert_findings(self.findings(), "tests/ipc/test.cpp:1")
-
-    def test_a_folder_without_arrows_is_found(self):
-        self.write("src/extras/extra.h", "")
-        self.assert_findings(self.findings(), "src/extras")
 
 
 class WaitsTest(CheckTest):
