@@ -1,7 +1,7 @@
 # shellcheck shell=bash disable=SC2034
 #
-# Sourced by the commands of this project (run, test, bench, .ci/run): what they need from the system, and how it gets
-# there. The caller has "set -euo pipefail".
+# Sourced by the commands of this project (run, test, bench, .ci/run and those of this folder): what they need from the
+# system, how it gets there, and how they tell what they do. The caller has "set -euo pipefail".
 
 # What a build needs. Python is here because the lint tests, which every configuration registers, are written in it.
 build_packages=(
@@ -36,6 +36,41 @@ die()
 {
     printf '%s: %s\n' "${0##*/}" "$*" >&2
     exit 1
+}
+
+# The comment at the head of a command is its help.
+print_help()
+{
+    sed -n '2,${/^#/!q;s/^#$//;s/^# //;p}' "$0"
+}
+
+# answer_help "$@": prints the help and ends the script where it is asked for. To be called before anything is done.
+answer_help()
+{
+    local argument
+    for argument in "$@"; do
+        if [[ "$argument" == -h || "$argument" == --help ]]; then
+            print_help
+            exit 0
+        fi
+    done
+}
+
+# usage_error <what is wrong>: ends the script because of its command line.
+usage_error()
+{
+    printf '%s: %s\n\n' "${0##*/}" "$*" >&2
+    print_help >&2
+    exit 2
+}
+
+# take_no_options "$@": ends the script where an argument looks like an option.
+take_no_options()
+{
+    local argument
+    for argument in "$@"; do
+        [[ "$argument" != -* ]] || usage_error "unknown option: $argument"
+    done
 }
 
 have_apt()
