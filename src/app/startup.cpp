@@ -103,6 +103,8 @@ void identifyApplication()
 {
     QCoreApplication::setApplicationName(u"Orvel Task Scheduler"_s);
     QCoreApplication::setApplicationVersion(u"1.0.1"_s);
+    // Desktops find the entry and the icon of the program's windows by this name.
+    QGuiApplication::setDesktopFileName(u"com.tamrix.OrvelSchedulerManager"_s);
     QGuiApplication::setWindowIcon(QIcon(u":/images/Orvel_scheduler_logo.png"_s));
 }
 

@@ -250,6 +250,7 @@ void TestStartup::theApplicationIsIdentified()
     QCOMPARE(QCoreApplication::applicationName(), u"Orvel Task Scheduler"_s);
     QCOMPARE(QCoreApplication::applicationVersion(), u"1.0.1"_s);
     QCOMPARE(QCoreApplication::organizationName(), QString());
+    QCOMPARE(QGuiApplication::desktopFileName(), u"com.tamrix.OrvelSchedulerManager"_s);
     QCOMPARE(QGuiApplication::windowIcon().pixmap(64).toImage(),
              QIcon(u":/images/Orvel_scheduler_logo.png"_s).pixmap(64).toImage());
     QVERIFY(!QGuiApplication::windowIcon().pixmap(64).isNull());

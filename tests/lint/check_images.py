@@ -15,6 +15,7 @@ from pathlib import Path
 from pngpixels import read_png
 
 IMAGES = Path("src/app/images")
+ICONS = Path("packaging/icons")
 BUNDLE = IMAGES / "images.qrc"
 USE = re.compile(r":/images/[\w./-]+\.\w+")
 USING_SUFFIXES = {".cpp", ".h", ".ui", ".qss"}
@@ -83,12 +84,16 @@ def check_rendering(root):
     findings = []
     with tempfile.TemporaryDirectory() as directory:
         subprocess.run([root / "tools/render-images", directory], check=True)
-        for fresh in sorted(Path(directory).glob("*.png")):
-            committed = root / IMAGES / fresh.name
-            if committed.is_file():
-                difference = differs(committed, fresh)
+        images = Path(directory)
+        icons = images / "icons"
+        for fresh in sorted(images.rglob("*.png")):
+            name = ICONS / fresh.relative_to(icons) if icons in fresh.parents else IMAGES / fresh.name
+            if (root / name).is_file():
+                difference = differs(root / name, fresh)
                 if difference:
-                    findings.append(f"{IMAGES / fresh.name} is not what its source draws: {difference}")
+                    findings.append(f"{name} is not what its source draws: {difference}")
+            elif icons in fresh.parents:
+                findings.append(f"{name} is missing")
     return findings
 
 

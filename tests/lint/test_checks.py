@@ -117,6 +117,20 @@ class ImagesTest(CheckTest):
         (self.root / "rendered").write_bytes(png(1, 1, b"\xff\x00\x00\xff"))
         self.assert_findings(check_images.check_rendering(self.root), "new.png")
 
+    def test_icons_are_compared_with_the_committed_files(self):
+        icon = "hicolor/16x16/apps/app.png"
+        self.write(
+            "tools/render-images", f'#!/bin/sh\ninstall -D "{self.root}/rendered" "$1/icons/{icon}"\n'
+        )
+        (self.root / "tools/render-images").chmod(0o755)
+        (self.root / "rendered").write_bytes(png(1, 1, b"\x00\x00\x00\xff"))
+        self.assert_findings(check_images.check_rendering(self.root), f"packaging/icons/{icon} is missing")
+        self.write(f"packaging/icons/{icon}", "")
+        (self.root / "packaging/icons" / icon).write_bytes(png(1, 1, b"\x00\x00\x00\xff"))
+        self.assert_findings(check_images.check_rendering(self.root))
+        (self.root / "rendered").write_bytes(png(1, 1, b"\xff\x00\x00\xff"))
+        self.assert_findings(check_images.check_rendering(self.root), f"packaging/icons/{icon} is not what")
+
 
 SOURCES = """
 #include <QObject>
