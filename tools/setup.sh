@@ -9,7 +9,7 @@ build_packages=(
     qt6-base-dev qt6-base-dev-tools qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools
 )
 # What the test suite needs beyond a build.
-test_packages=(librsvg2-bin)
+test_packages=(librsvg2-bin desktop-file-utils appstream man-db systemd)
 # What the checks of the sources need.
 check_packages=(clang-format clang-tidy)
 # What stands in for a screen where there is none.
@@ -18,7 +18,7 @@ display_packages=(xvfb imagemagick)
 font_packages=(fonts-dejavu-core fonts-noto-core fonts-noto-cjk fonts-noto-color-emoji)
 
 # The program by which a package is recognised on a system without apt. A package that is missing here is found, or
-# reported, by CMake.
+# reported, by CMake, or by the tests that are skipped without it.
 declare -A program_of_package=(
     [g++]=g++ [cmake]=cmake [ninja-build]=ninja [python3]=python3 [librsvg2-bin]=rsvg-convert
     [clang-format]=clang-format [clang-tidy]=run-clang-tidy [xvfb]=Xvfb [imagemagick]=import
