@@ -10,6 +10,9 @@ build_packages=(
 )
 # What the test suite needs beyond a build.
 test_packages=(librsvg2-bin desktop-file-utils appstream man-db systemd)
+# What making and checking the Debian packages needs beyond a build, and what trying them in a system of their own does.
+package_packages=(dpkg-dev file lintian)
+trial_packages=(debootstrap)
 # What the checks of the sources need.
 check_packages=(clang-format clang-tidy)
 # What stands in for a screen where there is none.
@@ -21,6 +24,7 @@ font_packages=(fonts-dejavu-core fonts-noto-core fonts-noto-cjk fonts-noto-color
 # reported, by CMake, or by the tests that are skipped without it.
 declare -A program_of_package=(
     [g++]=g++ [cmake]=cmake [ninja-build]=ninja [python3]=python3 [librsvg2-bin]=rsvg-convert
+    [dpkg-dev]=dpkg-shlibdeps [file]=file [lintian]=lintian [debootstrap]=debootstrap
     [clang-format]=clang-format [clang-tidy]=run-clang-tidy [xvfb]=Xvfb [imagemagick]=import
 )
 
