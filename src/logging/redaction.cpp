@@ -30,6 +30,13 @@ QRegularExpression caseInsensitive(const QString &pattern)
     return QRegularExpression(pattern, QRegularExpression::CaseInsensitiveOption);
 }
 
+/// An expression matches nowhere in a text with half of a surrogate pair in it, and an escape in JSON can bring one.
+/// Such halves give way to what UTF-8, and so the log file, has in their place.
+QString wellFormed(const QString &text)
+{
+    return text.isValidUtf16() ? text : QString::fromUtf8(text.toUtf8());
+}
+
 } // namespace
 
 QString redactText(const QString &text)
@@ -42,7 +49,7 @@ QString redactText(const QString &text)
     static const QRegularExpression authorization = caseInsensitive(uR"((authorization|auth)[\s:=]+[^\s,;]+)"_s);
     static const QRegularExpression bearer = caseInsensitive(uR"(bearer\s+[a-zA-Z0-9\-._~+/]+=*)"_s);
 
-    QString redacted = text;
+    QString redacted = wellFormed(text);
     redacted.replace(credential, u"\\1=***REDACTED***"_s);
     redacted.replace(authorization, u"\\1=***REDACTED***"_s);
     redacted.replace(bearer, u"bearer ***REDACTED***"_s);
