@@ -1,6 +1,7 @@
 #include "groupmerge.h"
 
 #include <algorithm>
+#include <limits>
 
 namespace Scheduler {
 
@@ -18,6 +19,13 @@ QList<const GroupInfo *> sortedByName(const QList<GroupInfo> &groups)
     return sorted;
 }
 
+/// Counts are whatever the daemon says, and their sum must be a number, too.
+int sum(int one, int other)
+{
+    using Limits = std::numeric_limits<int>;
+    return static_cast<int>(std::clamp<qint64>(qint64(one) + other, Limits::min(), Limits::max()));
+}
+
 } // namespace
 
 QList<GroupInfo> mergedByName(const QList<GroupInfo> &groups)
@@ -29,8 +37,9 @@ QList<GroupInfo> mergedByName(const QList<GroupInfo> &groups)
             merged.append(*group);
             continue;
         }
-        merged.last().taskCount += group->taskCount;
-        merged.last().enabledTaskCount += group->enabledTaskCount;
+        GroupInfo &sums = merged.last();
+        sums.taskCount = sum(sums.taskCount, group->taskCount);
+        sums.enabledTaskCount = sum(sums.enabledTaskCount, group->enabledTaskCount);
     }
     return merged;
 }

@@ -3,6 +3,8 @@
 
 #include <QCoreApplication>
 
+#include <limits>
+
 using namespace Scheduler;
 using namespace Qt::StringLiterals;
 
@@ -27,6 +29,7 @@ class TestGroupMerge : public QObject {
 
 private slots:
     void theFirstGroupOfANameStandsForAll();
+    void countsBeyondAnIntegerEndAtItsLimits();
     void theResultIsInOrderOfNames();
     void namesThatDifferInCaseAreDifferent();
     void nothingGivesNothing();
@@ -42,6 +45,16 @@ void TestGroupMerge::theFirstGroupOfANameStandsForAll()
     QCOMPARE(merged.first().parentId, u"parent of 11"_s);
     QCOMPARE(merged.first().taskCount, 7);
     QCOMPARE(merged.first().enabledTaskCount, 3);
+}
+
+void TestGroupMerge::countsBeyondAnIntegerEndAtItsLimits()
+{
+    constexpr int most = std::numeric_limits<int>::max();
+    constexpr int least = std::numeric_limits<int>::min();
+    const QList<GroupInfo> merged =
+        mergedByName({group(u"11"_s, u"Work"_s, most, least), group(u"22"_s, u"Work"_s, 1, -1)});
+    QCOMPARE(merged.first().taskCount, most);
+    QCOMPARE(merged.first().enabledTaskCount, least);
 }
 
 void TestGroupMerge::theResultIsInOrderOfNames()
