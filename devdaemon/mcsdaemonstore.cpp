@@ -1,5 +1,6 @@
 #include "mcsdaemonstore.h"
 
+#include "daemoncounter.h"
 #include "daemonresponse.h"
 
 #include <algorithm>
@@ -182,7 +183,8 @@ std::optional<QString> MCsDaemonStore::storedGroupId(const QString &groupId) con
 
 void MCsDaemonStore::record(AuditEntry entry)
 {
-    entry.id = ++m_state.lastAuditId;
+    m_state.lastAuditId = counted(m_state.lastAuditId);
+    entry.id = m_state.lastAuditId;
     m_state.audit.append(entry);
     while (m_state.audit.size() > m_maxAuditEntries)
         m_state.audit.removeFirst();

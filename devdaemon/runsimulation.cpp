@@ -1,5 +1,6 @@
 #include "runsimulation.h"
 
+#include "daemoncounter.h"
 #include "daemonschedule.h"
 #include "daemontasktypes.h"
 
@@ -95,7 +96,7 @@ void handleDueTask(CommandContext &context, const QString &taskId)
 void startRun(CommandContext &context, const QString &taskId)
 {
     Task &task = *context.store.editTask(taskId);
-    ++task.runCount;
+    task.runCount = counted(task.runCount);
     task.run = {newId(), context.now, context.now.addSecs(runSecondsOf(task, context.settings))};
     task.lastRunAt = context.now;
     task.lastRunStatus = u"running"_s;

@@ -1,7 +1,10 @@
 #include "enginefixture.h"
 #include "testmain.h"
 
+#include <limits>
+
 using namespace Qt::StringLiterals;
+using namespace Scheduler::DevDaemon;
 using namespace TestSupport;
 
 class TestDaemonRuns : public QObject {
@@ -17,6 +20,7 @@ private slots:
     void aDisabledTaskIsNotStartedButCanBeTriggered();
     void aRunningTaskCannotBeTriggeredAgain();
     void tenRunsShowEveryOutcome();
+    void countersAtTheirEndKeepTheDaemonGoing();
     void theTestTypeChoosesOutcomeAndDuration_data();
     void theTestTypeChoosesOutcomeAndDuration();
     void deletingARunningTaskCancelsItsRun();
@@ -146,6 +150,20 @@ void TestDaemonRuns::tenRunsShowEveryOutcome()
     QCOMPARE(outcomes.count(u"success"_s), 8);
     QCOMPARE(outcomes.at(4), u"failed"_s);
     QCOMPARE(outcomes.at(8), u"timeout"_s);
+}
+
+void TestDaemonRuns::countersAtTheirEndKeepTheDaemonGoing()
+{
+    Task task;
+    task.id = u"t"_s;
+    task.runCount = std::numeric_limits<int>::max();
+    State state;
+    state.tasks = {task};
+    state.lastAuditId = std::numeric_limits<qint64>::max();
+    EngineFixture daemon(state);
+    QCOMPARE(trigger(daemon, task.id), QString());
+    QCOMPARE(daemon.engine.state().tasks.first().runCount, task.runCount);
+    QCOMPARE(daemon.engine.state().lastAuditId, state.lastAuditId);
 }
 
 void TestDaemonRuns::theTestTypeChoosesOutcomeAndDuration_data()
