@@ -39,6 +39,16 @@ if(ORVEL_SANITIZE_THREADS)
   target_link_options(orvel_build_options INTERFACE -fsanitize=thread)
 endif()
 
+if(ORVEL_FUZZ)
+  if(NOT CMAKE_CXX_COMPILER_ID STREQUAL "Clang")
+    message(FATAL_ERROR "ORVEL_FUZZ needs Clang, which brings the fuzzing engine; use the preset \"fuzz\"")
+  endif()
+  # Coverage for the engine, which the fuzz targets alone link. -O1 comes last and so takes the place of -O2.
+  target_compile_options(orvel_build_options INTERFACE
+    -fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer -O1)
+  target_link_options(orvel_build_options INTERFACE -fsanitize=fuzzer-no-link,address,undefined)
+endif()
+
 # orvel_add_library(<name> SOURCES <file>... LINK <target>...)
 #
 # Makes one folder a static library. Whoever links it sees that folder's headers and the headers of what it links,

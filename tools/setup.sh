@@ -15,6 +15,8 @@ package_packages=(dpkg-dev file lintian)
 trial_packages=(debootstrap)
 # What the checks of the sources need.
 check_packages=(clang-format clang-tidy)
+# What the fuzz targets need: the compiler that brings the fuzzing engine, and what makes its reports readable.
+fuzz_packages=(clang libclang-rt-dev llvm)
 # What stands in for a screen where there is none.
 display_packages=(xvfb imagemagick)
 # Recommended, never required: the texts of the ten languages, and the emoji in some headings.
@@ -25,7 +27,7 @@ font_packages=(fonts-dejavu-core fonts-noto-core fonts-noto-cjk fonts-noto-color
 declare -A program_of_package=(
     [g++]=g++ [cmake]=cmake [ninja-build]=ninja [python3]=python3 [librsvg2-bin]=rsvg-convert
     [dpkg-dev]=dpkg-shlibdeps [file]=file [lintian]=lintian [debootstrap]=debootstrap
-    [clang-format]=clang-format [clang-tidy]=run-clang-tidy [xvfb]=Xvfb [imagemagick]=import
+    [clang-format]=clang-format [clang-tidy]=run-clang-tidy [clang]=clang++ [xvfb]=Xvfb [imagemagick]=import
 )
 
 # Whether apt's lists of packages were renewed in this run.
