@@ -75,9 +75,17 @@ QJsonObject toJson(const AuditEntry &entry)
             {u"createdAt"_s, timeText(entry.createdAt)}};
 }
 
+/// Times without a run are none: they would not be written again.
+Run runFrom(const QJsonObject &object)
+{
+    const QString id = object.value("id"_L1).toString();
+    if (id.isEmpty())
+        return {};
+    return {id, timeFrom(object.value("startedAt"_L1)), timeFrom(object.value("endsAt"_L1))};
+}
+
 Task taskFrom(const QJsonObject &object)
 {
-    const QJsonObject run = object.value("run"_L1).toObject();
     Task task;
     task.id = object.value("id"_L1).toString();
     task.name = object.value("name"_L1).toString();
@@ -91,7 +99,7 @@ Task taskFrom(const QJsonObject &object)
     task.lastRunAt = timeFrom(object.value("lastRunAt"_L1));
     task.lastRunStatus = object.value("lastRunStatus"_L1).toString();
     task.runCount = object.value("runCount"_L1).toInt();
-    task.run = {run.value("id"_L1).toString(), timeFrom(run.value("startedAt"_L1)), timeFrom(run.value("endsAt"_L1))};
+    task.run = runFrom(object.value("run"_L1).toObject());
     task.createdAt = timeFrom(object.value("createdAt"_L1));
     task.updatedAt = timeFrom(object.value("updatedAt"_L1));
     return task;

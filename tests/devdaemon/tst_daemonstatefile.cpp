@@ -19,6 +19,7 @@ private slots:
     void anUnusableFileIsReportedAndKept();
     void aDirectoryInPlaceOfTheFileIsReported();
     void referencesThatLeadNowhereAreDropped();
+    void aRunWithoutAnIdIsNone();
 
 private:
     [[nodiscard]] QString path() const
@@ -114,6 +115,19 @@ void TestDaemonStateFile::anUnusableFileIsReportedAndKept()
 void TestDaemonStateFile::aDirectoryInPlaceOfTheFileIsReported()
 {
     QVERIFY(!loadStateFile(m_directory->path()).error.isEmpty());
+}
+
+void TestDaemonStateFile::aRunWithoutAnIdIsNone()
+{
+    QFile file(path());
+    QVERIFY(file.open(QIODevice::WriteOnly));
+    file.write(R"({"version":1,"groups":[],"audit":[],
+                   "tasks":[{"id":"t","run":{"startedAt":"2026-03-01T14:07:50Z","endsAt":"2026-03-01T14:07:56Z"}}]})");
+    file.close();
+
+    const LoadedState loaded = loadStateFile(path());
+    QVERIFY(loaded.state.has_value());
+    QCOMPARE(loaded.state->tasks.first().run, Run());
 }
 
 void TestDaemonStateFile::referencesThatLeadNowhereAreDropped()
