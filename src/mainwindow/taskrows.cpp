@@ -55,7 +55,7 @@ template <typename Value> bool change(Value &value, const Value &newValue)
 bool writeStatus(TaskRow &row, const TaskInfo &task, const QDateTime &now, SharedTexts &texts)
 {
     bool changed = change(row.enabled, task.enabled);
-    changed |= change(row.nextRun, countdown(now, task.nextRunAt));
+    changed |= change(row.nextRun, countdownFrom(now, task.nextRunAt));
     if (row.lastRunStatus == task.lastRunStatus)
         return changed;
     row.lastRunStatus = texts.shared(task.lastRunStatus);

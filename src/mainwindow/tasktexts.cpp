@@ -55,7 +55,7 @@ Countdown counted(Countdown::Form form, qint64 larger, qint64 smaller)
 
 } // namespace
 
-Countdown countdown(const QDateTime &now, const QDateTime &when)
+Countdown countdownFrom(const QDateTime &now, const QDateTime &when)
 {
     using Form = Countdown::Form;
     if (!when.isValid())

@@ -20,7 +20,7 @@ struct Countdown {
 
 /// To a run, in whole units, truncated; an invalid time is not scheduled, and a past one overdue. Two times in UTC,
 /// which daemons send, are compared without a look at the time zone.
-[[nodiscard]] Countdown countdown(const QDateTime &now, const QDateTime &when);
+[[nodiscard]] Countdown countdownFrom(const QDateTime &now, const QDateTime &when);
 [[nodiscard]] QString formatNextRun(const Countdown &countdown);
 
 /// "Enabled" or "Disabled".

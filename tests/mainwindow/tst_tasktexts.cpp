@@ -10,7 +10,7 @@ namespace {
 
 QString formatNextRun(const QDateTime &when, const QDateTime &now)
 {
-    return Scheduler::formatNextRun(countdown(now, when));
+    return Scheduler::formatNextRun(countdownFrom(now, when));
 }
 
 /// The process is in that time zone while this lives.
