@@ -92,7 +92,7 @@ void MCsSchedulerClient::watchConnection()
 bool MCsSchedulerClient::registerClient()
 {
     const QPointer<MCsIPCConnection> attempted = m_connection;
-    const QJsonObject response = sendRequest(u"client.register"_s, {{u"clientType"_s, m_clientType}});
+    const QJsonObject response = sendRequest(u"client.register"_s, {{u"clientType"_s, m_clientType}}, m_commandTimeout);
     // The answer may have waited under a nested call for so long that its connection is gone.
     if (response.value("ok"_L1).toBool() && (attempted != m_connection || !isConnected()))
         return false;
@@ -156,6 +156,16 @@ void MCsSchedulerClient::setClientType(const QString &type)
 bool MCsSchedulerClient::isAllTypesClient() const
 {
     return m_clientType.isEmpty() || m_clientType == allTaskTypesId;
+}
+
+int MCsSchedulerClient::commandTimeout() const
+{
+    return m_commandTimeout;
+}
+
+void MCsSchedulerClient::setCommandTimeout(int timeoutMs)
+{
+    m_commandTimeout = timeoutMs;
 }
 
 QString MCsSchedulerClient::lastError() const

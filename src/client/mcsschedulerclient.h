@@ -19,7 +19,7 @@ class MCsIPCConnection;
 /// connection, reconnects with growing delays, and offers every command as a typed operation.
 ///
 /// It owns at most one MCsIPCConnection at a time and makes a new one for each attempt. Every operation that asks the
-/// daemon waits up to commandTimeoutMs in a nested event loop: when it returns, other slots may have run, and the
+/// daemon waits up to commandTimeout() in a nested event loop: when it returns, other slots may have run, and the
 /// connection may have gone or be another one. Failures are values: an operation returns false, 0, an empty string, an
 /// empty list or a default record, and lastErrorCode and lastError tell why. A success clears neither.
 class MCsSchedulerClient : public QObject {
@@ -52,6 +52,11 @@ public:
     void setClientType(const QString &type);
     /// True when the client type is empty or means all types.
     [[nodiscard]] bool isAllTypesClient() const;
+
+    /// How long a command waits for its answer, in milliseconds; commandTimeoutMs unless set. A command that waits
+    /// already is not affected.
+    [[nodiscard]] int commandTimeout() const;
+    void setCommandTimeout(int timeoutMs);
 
     [[nodiscard]] QString lastError() const;
     [[nodiscard]] QString lastErrorCode() const;
@@ -117,7 +122,7 @@ private slots:
     void onReconnectTimerTimeout();
 
 private:
-    QJsonObject sendRequest(const QString &cmd, const QJsonObject &payload, int timeoutMs = commandTimeoutMs);
+    QJsonObject sendRequest(const QString &cmd, const QJsonObject &payload, int timeoutMs);
     bool succeeds(const QString &cmd, const QJsonObject &payload);
     QJsonObject requestData(const QString &cmd, const QJsonObject &payload);
 
@@ -134,6 +139,7 @@ private:
     QString m_lastError;
     QString m_pipeName;
     QString m_clientType;
+    int m_commandTimeout = commandTimeoutMs;
     bool m_autoReconnect = false;
     bool m_reconnecting = false;
     QTimer *m_checkTimer = nullptr;

@@ -47,12 +47,12 @@ QJsonObject auditPayload(const QString &taskType, int limit, bool ascending, con
 
 bool MCsSchedulerClient::succeeds(const QString &cmd, const QJsonObject &payload)
 {
-    return isOk(sendRequest(cmd, payload));
+    return isOk(sendRequest(cmd, payload, m_commandTimeout));
 }
 
 QJsonObject MCsSchedulerClient::requestData(const QString &cmd, const QJsonObject &payload)
 {
-    return dataOf(sendRequest(cmd, payload));
+    return dataOf(sendRequest(cmd, payload, m_commandTimeout));
 }
 
 // Some commands know the task type as "type" and others as "taskType". The daemon expects exactly that.
@@ -197,7 +197,7 @@ QList<GroupInfo> MCsSchedulerClient::listGroupsByTaskType(const QString &taskTyp
 
 QList<TaskTypeInfo> MCsSchedulerClient::listTaskTypes()
 {
-    const QJsonObject response = sendRequest(u"tasktype.list"_s, {});
+    const QJsonObject response = sendRequest(u"tasktype.list"_s, {}, m_commandTimeout);
     const QByteArray text = QJsonDocument(response).toJson(QJsonDocument::Compact);
     MCsLogger::instance().debug(u"client"_s, "listTaskTypes response:"_L1 + QString::fromUtf8(text));
     return toRecords<TaskTypeInfo>(dataOf(response).value("taskTypes"_L1));

@@ -11,8 +11,8 @@ namespace Scheduler {
 
 namespace {
 
-/// A request of the one-second update has surely ended by then.
-constexpr int statusWaitMs = MCsSchedulerClient::commandTimeoutMs + 500;
+/// So long after its time-out a request of the one-second update has surely ended.
+constexpr int statusWaitMarginMs = 500;
 
 } // namespace
 
@@ -80,7 +80,7 @@ void MCsMainWindow::onUpdateTaskStatus()
     // tick from returning, though its request has long ended; the statuses go on under the dialog.
     if (!m_client->isConnected() || !m_statusWait.hasExpired())
         return;
-    m_statusWait.setRemainingTime(statusWaitMs);
+    m_statusWait.setRemainingTime(m_client->commandTimeout() + statusWaitMarginMs);
     refreshTaskStatuses();
     m_statusWait.setRemainingTime(0);
 }

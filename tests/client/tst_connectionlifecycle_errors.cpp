@@ -34,6 +34,7 @@ private slots:
     void lossIsToldAsErrorDisconnectedAndConnectionLost();
     void commandWithoutAConnectionIsNotConnected();
     void failedCommandLeavesCodeAndMessage();
+    void commandsWaitAsLongAsTheyAreTold();
     void successDoesNotClearTheLastError();
 };
 
@@ -178,6 +179,31 @@ void TestLifecycleErrors::failedCommandLeavesCodeAndMessage()
     QCOMPARE(m_client->lastErrorCode(), u"NO_%2_CODE"_s);
     QCOMPARE(m_client->lastError(), u"NO_%2_CODE: 100 % no"_s);
     QCOMPARE(log.lines(source), QStringList{u"ERROR NO_%2_CODE: 100 % no"_s});
+}
+
+void TestLifecycleErrors::commandsWaitAsLongAsTheyAreTold()
+{
+    QCOMPARE(m_client->commandTimeout(), 2000);
+    m_client->setCommandTimeout(20);
+    m_daemon->ignore(u"client.register"_s);
+    QVERIFY(!m_client->connectToDaemon());
+    QCOMPARE(m_client->lastError(), u"Failed to register client: Request timed out after 20ms"_s);
+
+    m_daemon->answer(u"client.register"_s, {});
+    m_client->setCommandTimeout(20000);
+    QVERIFY(m_client->connectToDaemon());
+    m_client->setCommandTimeout(30);
+    m_daemon->ignore(u"task.trigger"_s);
+    QVERIFY(!m_client->triggerTask(u"t1"_s));
+    QCOMPARE(m_client->lastError(), u"TIMEOUT: Request timed out after 30ms"_s);
+    m_daemon->ignore(u"tasktype.list"_s);
+    QCOMPARE(m_client->listTaskTypes().size(), 0);
+    QCOMPARE(m_client->lastError(), u"TIMEOUT: Request timed out after 30ms"_s);
+    // A command that waits already keeps its time.
+    m_daemon->onRequest(u"task.delete"_s, [this](const QJsonObject &) { m_client->setCommandTimeout(20000); });
+    m_daemon->ignore(u"task.delete"_s);
+    QVERIFY(!m_client->deleteTask(u"t1"_s));
+    QCOMPARE(m_client->lastError(), u"TIMEOUT: Request timed out after 30ms"_s);
 }
 
 void TestLifecycleErrors::successDoesNotClearTheLastError()
