@@ -247,10 +247,11 @@ void MCsMainWindow::scheduleEmptyPrompt()
 
 void MCsMainWindow::checkEmptyTasksAndPrompt()
 {
+    const quint64 losses = m_losses;
     if (!m_client->isConnected() || m_client->getTaskCount() >= 1)
         return;
-    // The count of a request that failed reads as none.
-    if (m_state != ConnectionState::Connected || !m_client->isConnected())
+    // The count of a request whose connection was lost reads as none, and another connection may stand by now.
+    if (m_state != ConnectionState::Connected || !m_client->isConnected() || losses != m_losses)
         return;
     if (askYesNo(this, tr("No Tasks Found"), tr("No scheduled tasks were found.\n\nWould you like to create one now?")))
         onCreateTask();
