@@ -126,6 +126,26 @@ void ScriptedDaemon::whileWaiting(const QString &cmd, const std::function<void()
     });
 }
 
+void ScriptedDaemon::deliverWith(const QString &cmd, const Delivery &delivery)
+{
+    if (delivery)
+        m_deliveries.insert(cmd, delivery);
+    else
+        m_deliveries.remove(cmd);
+}
+
+void ScriptedDaemon::pauseReading(bool paused)
+{
+    m_paused = paused;
+    const QList<QLocalSocket *> sockets = m_sockets;
+    for (QLocalSocket *socket : sockets) {
+        // A socket reads ahead into its buffer as long as that has no limit.
+        socket->setReadBufferSize(paused ? 1 : 0);
+        if (!paused)
+            onReadyRead(socket);
+    }
+}
+
 QList<QJsonObject> ScriptedDaemon::requests(const QString &cmd) const
 {
     if (cmd.isEmpty())
@@ -196,6 +216,8 @@ void ScriptedDaemon::onNewConnection()
 
 void ScriptedDaemon::onReadyRead(QLocalSocket *socket)
 {
+    if (m_paused)
+        return;
     const QByteArray bytes = socket->readAll();
     m_received += bytes;
     m_buffers[socket] += bytes;
@@ -221,7 +243,9 @@ void ScriptedDaemon::handle(const QJsonObject &request)
     QJsonObject response = responder ? responder(request.value("payload"_L1).toObject())
                                      : QJsonObject{{u"ok"_s, true}, {u"data"_s, QJsonObject()}};
     response.insert("id"_L1, request.value("id"_L1));
-    if (m_held.contains(cmd))
+    if (const Delivery delivery = m_deliveries.value(cmd))
+        delivery(response);
+    else if (m_held.contains(cmd))
         m_heldAnswers.append({cmd, response});
     else
         sendResponse(response);

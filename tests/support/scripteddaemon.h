@@ -26,6 +26,8 @@ public:
     using Hook = std::function<void(const QJsonObject &request)>;
     /// Makes the response object without its id.
     using Responder = std::function<QJsonObject(const QJsonObject &payload)>;
+    /// Gets the whole response of a request and does with it what it likes.
+    using Delivery = std::function<void(const QJsonObject &response)>;
 
     /// The endpoint is the one that the client asks for, unless a name is given.
     explicit ScriptedDaemon(const QString &serverName = {}, QObject *parent = nullptr);
@@ -55,6 +57,12 @@ public:
     void onRequest(const QString &cmd, const Hook &hook);
     /// Runs an action once, while the next request of the command waits for its answer, which comes after it.
     void whileWaiting(const QString &cmd, const std::function<void()> &action);
+
+    /// Answers of the command go to the function instead of to the client, whatever else is scripted for it; an empty
+    /// one ends that.
+    void deliverWith(const QString &cmd, const Delivery &delivery);
+    /// Stops reading from the connections, so that what the client writes backs up, or goes on with what has come.
+    void pauseReading(bool paused);
 
     /// Requests so far, in order, optionally of one command.
     [[nodiscard]] QList<QJsonObject> requests(const QString &cmd = {}) const;
@@ -89,11 +97,13 @@ private:
     QHash<QLocalSocket *, QByteArray> m_buffers;
     QHash<QString, Responder> m_responders;
     QHash<QString, Hook> m_hooks;
+    QHash<QString, Delivery> m_deliveries;
     QSet<QString> m_ignored;
     QSet<QString> m_held;
     QList<HeldAnswer> m_heldAnswers;
     QList<QJsonObject> m_requests;
     QByteArray m_received;
+    bool m_paused = false;
     int m_accepted = 0;
 };
 
