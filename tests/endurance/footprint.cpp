@@ -1,0 +1,95 @@
+#include "footprint.h"
+
+#include <QApplication>
+#include <QDir>
+#include <QTimer>
+#include <QWidget>
+
+#include <algorithm>
+
+#if defined(__has_feature)
+#if __has_feature(address_sanitizer)
+#define ORVEL_ADDRESS_SANITIZER
+#endif
+#endif
+#if defined(__SANITIZE_ADDRESS__)
+#define ORVEL_ADDRESS_SANITIZER
+#endif
+#if defined(__GLIBC__) && !defined(ORVEL_ADDRESS_SANITIZER)
+#include <malloc.h>
+#define ORVEL_TELLS_HEAP
+#endif
+
+using namespace Qt::StringLiterals;
+
+namespace TestSupport {
+
+namespace {
+
+qint64 heapInUse()
+{
+#ifdef ORVEL_TELLS_HEAP
+    const auto info = mallinfo2();
+    return static_cast<qint64>(info.uordblks + info.hblkhd);
+#else
+    return -1;
+#endif
+}
+
+int entriesOf(const QString &directory)
+{
+    const QDir dir(directory);
+    return dir.exists() ? static_cast<int>(dir.entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot).size())
+                        : -1;
+}
+
+void carryOutDeletions()
+{
+    QCoreApplication::processEvents();
+    QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
+    QCoreApplication::processEvents();
+}
+
+} // namespace
+
+Footprint footprint(const QList<const QObject *> &roots)
+{
+    carryOutDeletions();
+    Footprint result;
+    result.heapBytes = heapInUse();
+    result.descriptors = entriesOf(u"/proc/self/fd"_s);
+    result.threads = entriesOf(u"/proc/self/task"_s);
+    result.widgets = static_cast<int>(QApplication::allWidgets().size());
+    result.objects = result.timers = result.running = 0;
+    for (const QObject *root : roots) {
+        result.objects += 1 + static_cast<int>(root->findChildren<QObject *>().size());
+        const QList<QTimer *> timers = root->findChildren<QTimer *>();
+        result.timers += static_cast<int>(timers.size());
+        result.running += static_cast<int>(std::ranges::count_if(timers, &QTimer::isActive));
+    }
+    return result;
+}
+
+bool tellsHeap()
+{
+#ifdef ORVEL_TELLS_HEAP
+    return true;
+#else
+    return false;
+#endif
+}
+
+QString describe(const Footprint &footprint)
+{
+    constexpr qint64 kibibyte = 1024;
+    const QString heap = footprint.heapBytes < 0 ? u"heap unknown"_s : u"%1 KiB"_s.arg(footprint.heapBytes / kibibyte);
+    return u"%1, %2 descriptors, %3 threads, %4 widgets, %5 objects, %6 timers (%7 running)"_s.arg(heap)
+        .arg(footprint.descriptors)
+        .arg(footprint.threads)
+        .arg(footprint.widgets)
+        .arg(footprint.objects)
+        .arg(footprint.timers)
+        .arg(footprint.running);
+}
+
+} // namespace TestSupport
