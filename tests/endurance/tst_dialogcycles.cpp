@@ -29,6 +29,11 @@ public:
     int count = 0;
 };
 
+/// Qt's own: below a window with a style sheet it keeps the rules of combo and spin boxes that are gone, until their
+/// addresses are taken by others. That is some hundred bytes for each dialog, and less and less; all of it goes with
+/// the window. A dialog that stayed would be a hundred times as much.
+constexpr Endurance::Allowance keptRules{160 * 1024, 2 * 1024};
+
 QJsonObject typeWithFields()
 {
     return {
@@ -79,6 +84,7 @@ void TestDialogCycles::openingAndClosingADialogLeavesNothingBehind()
     fixture.selectTask(0);
     DialogEnder ender;
     Endurance endurance(QString::fromLatin1(QTest::currentDataTag()), fullCycles, shortCycles, {fixture.window.get()});
+    endurance.allow(keptRules);
     endurance.run([&](int cycle) {
         fixture.run(control);
         QCOMPARE(ender.count, cycle + 1);
