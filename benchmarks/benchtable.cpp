@@ -68,10 +68,17 @@ void addManual(const char *name, const std::function<double()> &work)
             })->UseManualTime());
 }
 
+const char *verdict(const Measured &measured, const Row &row)
+{
+    if (measured.floor <= 0 || measured.ours <= 0)
+        return "DID NOT WORK";
+    return measured.ours / measured.floor <= row.goal ? "met" : "NOT MET";
+}
+
 void print(const Row &row, const Measured &measured, double ratio)
 {
     std::printf("%-62s %10.3f %10.3f %-3s %6.2f x %6.2f x  %s\n", qPrintable(row.work), measured.floor, measured.ours,
-                qPrintable(measured.unit), ratio, row.goal, ratio <= row.goal ? "met" : "NOT MET");
+                qPrintable(measured.unit), ratio, row.goal, verdict(measured, row));
     std::fflush(stdout);
 }
 
@@ -105,7 +112,7 @@ Measured timePairManually(const std::function<double()> &floor, const std::funct
 
 int printTable(const QList<Row> &rows, const QString &only, bool json)
 {
-    int missed = 0;
+    int broken = 0;
     QJsonArray results;
     if (!json)
         std::printf("%-62s %10s %10s %-3s %8s %8s\n", "work", "floor", "ours", "", "ratio", "goal");
@@ -114,7 +121,7 @@ int printTable(const QList<Row> &rows, const QString &only, bool json)
             continue;
         const Measured measured = row.measure();
         const double ratio = measured.floor > 0 ? measured.ours / measured.floor : 0;
-        missed += ratio > row.goal ? 1 : 0;
+        broken += measured.floor > 0 && measured.ours > 0 ? 0 : 1;
         if (json)
             results.append(toJson(row, measured, ratio));
         else
@@ -122,7 +129,7 @@ int printTable(const QList<Row> &rows, const QString &only, bool json)
     }
     if (json)
         std::printf("%s", QJsonDocument(results).toJson().constData());
-    return missed;
+    return broken;
 }
 
 } // namespace Bench

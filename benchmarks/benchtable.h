@@ -35,7 +35,7 @@ void setEffort(const Effort &effort);
 [[nodiscard]] Measured timePairManually(const std::function<double()> &floor, const std::function<double()> &ours);
 
 /// Measures the rows whose work holds the text, printing each as it is done; as a table or as JSON. Returns the number
-/// of missed goals.
+/// of rows that did not work.
 int printTable(const QList<Row> &rows, const QString &only, bool json);
 
 // The rows by subject.

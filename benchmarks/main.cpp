@@ -55,6 +55,5 @@ int main(int argc, char **argv)
         Bench::setEffort({0.001, 1});
     const QList<Bench::Row> rows = Bench::exchangeRows() + Bench::frameRows() + Bench::recordRows() +
                                    Bench::windowRows() + Bench::logRows() + Bench::processRows() + Bench::dialogRows();
-    Bench::printTable(rows, parser.value(u"only"_s), parser.isSet(u"json"_s));
-    return 0;
+    return Bench::printTable(rows, parser.value(u"only"_s), parser.isSet(u"json"_s)) == 0 ? 0 : 1;
 }

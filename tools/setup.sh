@@ -9,7 +9,7 @@ build_packages=(
     qt6-base-dev qt6-base-dev-tools qt6-tools-dev qt6-tools-dev-tools qt6-l10n-tools
 )
 # What the test suite needs beyond a build.
-test_packages=(librsvg2-bin desktop-file-utils appstream man-db systemd)
+test_packages=(librsvg2-bin desktop-file-utils appstream man-db systemd tzdata)
 # What making and checking the Debian packages needs beyond a build, and what trying them in a system of their own does.
 package_packages=(dpkg-dev file lintian)
 trial_packages=(debootstrap)

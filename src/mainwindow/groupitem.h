@@ -11,7 +11,7 @@ namespace Scheduler {
 /// A group in the tree: its name with the number of its tasks behind it, in the group's colour on a light tint of it.
 ///
 /// Text and colours are made when they are painted, and not kept in the lists of roles and values of QTreeWidgetItem:
-/// that halves the cost of a tree with thousands of groups.
+/// that halves the cost of a tree with thousands of groups. Of the item's setters only that of the background counts.
 class GroupItem : public QTreeWidgetItem {
 public:
     static constexpr int Type = QTreeWidgetItem::UserType + 1;

@@ -15,16 +15,18 @@ namespace {
 constexpr int shownEntries = 100;
 
 /// In one edit, so that the view is laid out once and not for each line; and with the scroll bar in its place, which
-/// would otherwise come with the last line and have all of them laid out twice more for the narrower view.
+/// would otherwise come with the last line and have all of them laid out twice more for the narrower view. Few lines,
+/// which need no bar, are laid out once more instead.
 void appendLines(QTextEdit &view, const QStringList &lines)
 {
+    const Qt::ScrollBarPolicy policy = view.verticalScrollBarPolicy();
     view.setVerticalScrollBarPolicy(Qt::ScrollBarAlwaysOn);
     QTextCursor edit(view.document());
     edit.beginEditBlock();
     for (const QString &line : lines)
         view.append(line);
     edit.endEditBlock();
-    view.setVerticalScrollBarPolicy(Qt::ScrollBarAsNeeded);
+    view.setVerticalScrollBarPolicy(policy);
 }
 
 } // namespace

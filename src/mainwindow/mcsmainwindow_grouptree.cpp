@@ -2,6 +2,7 @@
 
 #include "groupitem.h"
 #include "groupmerge.h"
+#include "itemviews.h"
 #include "mcsschedulerclient.h"
 #include "ui_mcsmainwindow.h"
 
@@ -20,7 +21,7 @@ namespace {
 void showCount(QTreeWidget &tree, QTreeWidgetItem *item, int count)
 {
     if (item != nullptr && item->type() == GroupItem::Type && static_cast<GroupItem *>(item)->setTaskCount(count))
-        tree.viewport()->update(tree.visualItemRect(item));
+        showChange(tree, tree.visualItemRect(item));
 }
 
 /// Parents that form a circle would take their items out of the tree altogether.

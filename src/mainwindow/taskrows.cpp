@@ -1,5 +1,6 @@
 #include "taskrows.h"
 
+#include "itemviews.h"
 #include "taskcell.h"
 
 #include <QHash>
@@ -16,9 +17,11 @@ class SharedTexts {
 public:
     [[nodiscard]] QString shared(const QString &text)
     {
-        if (m_texts.size() >= limit) // a daemon may as well give each task a status in words of its own
-            return text;
-        return *m_texts.insert(text);
+        if (const auto known = m_texts.constFind(text); known != m_texts.constEnd())
+            return *known;
+        if (m_texts.size() < limit) // a daemon may as well give each task a status in words of its own
+            m_texts.insert(text);
+        return text;
     }
 
 private:
@@ -35,15 +38,16 @@ TaskCell *firstCell(const QTableWidget &table, int row)
 /// What the row shows. Cells that are there stay: a refresh mostly brings what was shown before.
 TaskRow &ensuredRow(QTableWidget &table, int row)
 {
-    if (const TaskCell *cell = firstCell(table, row); cell != nullptr)
-        return *cell->row();
-    const TaskCell::Row shown(new TaskRow);
-    for (const TaskColumn column : {NameColumn, TypeColumn, StatusColumn, NextRunColumn, LastRunColumn})
-        table.setItem(row, column, new TaskCell(shown, column));
+    const TaskCell *first = firstCell(table, row);
+    const TaskCell::Row shown = first != nullptr ? first->row() : TaskCell::Row(new TaskRow);
+    for (const TaskColumn column : {NameColumn, TypeColumn, StatusColumn, NextRunColumn, LastRunColumn}) {
+        if (table.item(row, column) == nullptr)
+            table.setItem(row, column, new TaskCell(shown, column));
+    }
     return *shown;
 }
 
-template <typename Value> bool change(Value &value, const Value &newValue)
+template <typename Value> [[nodiscard]] bool change(Value &value, const Value &newValue)
 {
     if (value == newValue)
         return false;
@@ -64,10 +68,10 @@ bool writeStatus(TaskRow &row, const TaskInfo &task, const QDateTime &now, Share
 
 void write(TaskRow &row, const TaskInfo &task, const QDateTime &now, SharedTexts &texts)
 {
-    change(row.id, task.id);
-    change(row.name, task.name);
+    row.id = task.id;
+    row.name = task.name;
     row.type = texts.shared(task.type);
-    writeStatus(row, task, now, texts);
+    (void)writeStatus(row, task, now, texts);
 }
 
 } // namespace
@@ -83,7 +87,7 @@ void fillTaskRows(QTableWidget &table, const QList<TaskInfo> &tasks)
         for (int row = 0; row < count; ++row)
             write(ensuredRow(table, row), tasks.at(row), now, texts);
     }
-    table.viewport()->update();
+    showChange(table);
 }
 
 void updateTaskRows(QTableWidget &table, const QList<TaskInfo> &tasks)
@@ -102,7 +106,7 @@ void updateTaskRows(QTableWidget &table, const QList<TaskInfo> &tasks)
             changed |= writeStatus(*row, task, now, texts);
     }
     if (changed)
-        table.viewport()->update();
+        showChange(table);
 }
 
 bool hasNoTaskRows(const QTableWidget &table)

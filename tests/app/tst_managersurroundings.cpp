@@ -202,7 +202,7 @@ void TestManagerSurroundings::withoutAPlaceForTheEndpointItSaysSoAndGoesOn_data(
     QTest::addColumn<QString>("said");
     QTest::newRow("none") << u"none"_s << u"runtime"_s;
     QTest::newRow("of others") << u"of others"_s << u"wrong permissions on runtime directory"_s;
-    QTest::newRow("too long") << u"too long"_s << QString();
+    QTest::newRow("too long") << u"too long"_s << u"Invalid name"_s;
 }
 
 void TestManagerSurroundings::withoutAPlaceForTheEndpointItSaysSoAndGoesOn()

@@ -30,6 +30,11 @@ public:
         environment.insert(QStringLiteral("QT_PLUGIN_PATH"), QStringLiteral(TEST_PLUGINS));
         m_process.setProcessEnvironment(environment);
         m_process.setProcessChannelMode(QProcess::MergedChannels);
+        // A suite that was started in the background hands on that it ignores some signals.
+        m_process.setChildProcessModifier([] {
+            for (const int number : {SIGINT, SIGHUP, SIGTERM})
+                std::signal(number, SIG_DFL);
+        });
         m_process.start(QString::fromLocal8Bit(program), arguments);
         m_process.waitForStarted();
     }

@@ -1,5 +1,6 @@
 #include "commandfixture.h"
 #include "endurance.h"
+#include "footprint.h"
 #include "mcsschedulerclient.h"
 #include "testmain.h"
 
@@ -16,6 +17,7 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// Instead of the two seconds that a command waits. A second of a user's time is a hundredth of that here.
+constexpr int endsWithinMs = 3000; // at once, but on a busy machine
 constexpr int commandTimeoutMs = 20;
 constexpr int millisecondsPerSecond = commandTimeoutMs / 2;
 
@@ -161,6 +163,7 @@ void TestStalledDaemon::tenMinutesKeepTheDepthOfEventLoopsBounded()
     QCOMPARE(underWay, 0);
     // The loop of live(), one for each thing under way, and one for all the six hundred ticks together.
     QVERIFY2(deepest <= 1 + mostUnderWay + 1, qPrintable(QString::number(deepest)));
+    QVERIFY2(mostUnderWay <= 8, qPrintable(QString::number(mostUnderWay)));
     QCOMPARE(fixture.window->connectionState(), ConnectionState::Connected);
 }
 
@@ -198,8 +201,10 @@ void TestStalledDaemon::pressesThatPileUpUnwindOnceTheyEnd()
            "stack each"_s.arg(presses)
                .arg(deepest - outer)
                .arg(stackPerPress);
-    // The stack of the main thread is 8 MiB; a thousand presses, one a second for a quarter of an hour, are to fit.
-    QVERIFY(stackPerPress < 8000);
+    // The stack of the main thread is 8 MiB; a thousand presses, one a second for a quarter of an hour, are to fit. The
+    // address sanitizer makes frames larger.
+    if (tellsHeap())
+        QVERIFY(stackPerPress < 8000);
     fixture.daemon.clearRequests(); // nothing waits any more
     fixture.setTasks({taskJson(u"t1"_s, u"One"_s)});
     fixture.daemon.answer(u"task.countByGroupAndType"_s, {{u"count"_s, 1}});
@@ -240,11 +245,11 @@ void TestStalledDaemon::theWindowClosesAtOnce()
     });
     ModalDriver driver;
     QCOMPARE(runUntilQuit(), 0);
-    QVERIFY2(sinceClosing.elapsed() < 1000, qPrintable(QString::number(sinceClosing.elapsed())));
+    QVERIFY2(sinceClosing.elapsed() < endsWithinMs, qPrintable(QString::number(sinceClosing.elapsed())));
     QVERIFY2(driver.finished(), driver.problems());
     QCOMPARE(pressed, depth);
     fixture.close();
-    QVERIFY2(sinceClosing.elapsed() < 1000, qPrintable(QString::number(sinceClosing.elapsed())));
+    QVERIFY2(sinceClosing.elapsed() < endsWithinMs, qPrintable(QString::number(sinceClosing.elapsed())));
     QCOMPARE(openWindows(), QStringList());
 }
 

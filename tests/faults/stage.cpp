@@ -12,7 +12,9 @@ namespace TestSupport {
 
 namespace {
 
-/// More than any good answer takes, on whatever machine.
+/// More than any good answer takes, on whatever machine; and less than a test waits for what it expects, for a command
+/// may go out on a connection that is lost already, and waits in vain.
+constexpr int answerMs = 4000;
 constexpr int patientMs = 20000;
 /// For a command that nothing comes before, so that no good answer has to hurry.
 constexpr int shortMs = 40;
@@ -54,7 +56,7 @@ bool Stage::setUp()
     if (!connectQuietly())
         return false;
     client = window->findChild<MCsSchedulerClient *>();
-    client->setCommandTimeout(patientMs);
+    client->setCommandTimeout(answerMs);
     script();
     window->onRefreshGroups();
     window->onRefreshTaskList();
@@ -114,7 +116,7 @@ void Stage::arm(const Fault &fault, const QString &command, int number, bool com
     m_countdown = number;
     m_struck.reset();
     m_mended = m_settled = false;
-    m_timeout = awaitsAnswer(fault.outcome) ? patientMs : comesFirst ? shortMs : mediumMs;
+    m_timeout = awaitsAnswer(fault.outcome) ? answerMs : comesFirst ? shortMs : mediumMs;
     client->setCommandTimeout(m_timeout);
     if (fault.outcome == Outcome::LostAndBack)
         m_hurry.start(1);
@@ -136,14 +138,14 @@ void Stage::strike(const QJsonObject &answer)
     daemon.deliverWith(m_command, {});
     // What is asked from now on gets its answer. The command that is struck waits already.
     const bool stands = m_fault.outcome != Outcome::Lost && m_fault.outcome != Outcome::AnsweredThenLost;
-    client->setCommandTimeout(stands ? patientMs : shortMs);
+    client->setCommandTimeout(stands ? answerMs : shortMs);
     m_struck = answer;
     m_fault.strike({daemon, *window, answer});
 }
 
 void Stage::hasten()
 {
-    m_timeout = qMin(m_timeout, awaitsAnswer(m_fault.outcome) ? patientMs : shortMs);
+    m_timeout = qMin(m_timeout, awaitsAnswer(m_fault.outcome) ? answerMs : shortMs);
     client->setCommandTimeout(m_timeout);
 }
 
@@ -163,7 +165,7 @@ void Stage::mend()
     const bool gone = m_fault.outcome == Outcome::Lost || m_fault.outcome == Outcome::AnsweredThenLost;
     if (gone && !m_settled)
         expectLoss();
-    client->setCommandTimeout(patientMs);
+    client->setCommandTimeout(answerMs);
     if (m_fault.stopsReading)
         daemon.pauseReading(false);
     if (m_fault.afterwards && hasStruck())
@@ -199,7 +201,7 @@ bool Stage::isReconnecting() const
 void Stage::settle()
 {
     QVERIFY(daemon.listen());
-    client->setCommandTimeout(patientMs);
+    client->setCommandTimeout(answerMs);
     m_hurry.start(1);
     QTRY_VERIFY_WITH_TIMEOUT(window->connectionState() == ConnectionState::Connected && client->isConnected(),
                              patientMs);

@@ -3,6 +3,7 @@
 #include "testmain.h"
 
 #include <QApplication>
+#include <QScrollBar>
 #include <QTextBlock>
 
 using namespace Scheduler;
@@ -36,6 +37,7 @@ class TestActivityLog : public QObject {
     Q_OBJECT
 
 private slots:
+    void aScrollBarStandsWhereItIsNeeded();
     void theNewestHundredAreAskedForByType_data();
     void theNewestHundredAreAskedForByType();
     void ofAHundredAndOneEntriesTheOldestIsNotShown();
@@ -243,6 +245,26 @@ void TestActivityLog::anEntryWithoutAnythingIsALineOfItsOwn()
     fixture.refresh();
     QCOMPARE(fixture.lines().size(), 3);
     QCOMPARE(fixture.lines().at(1).trimmed(), u"on ''"_s);
+}
+
+void TestActivityLog::aScrollBarStandsWhereItIsNeeded()
+{
+    LogWindow fixture;
+    fixture.happen(u"task.created"_s, u"One"_s);
+    QVERIFY(fixture.connect());
+    const QScrollBar *bar = fixture.view->verticalScrollBar();
+    QVERIFY(!bar->isVisible());
+    const int wide = fixture.view->viewport()->width();
+    for (int count = 0; count < 100; ++count)
+        fixture.happen(u"task.created"_s, u"Another"_s);
+    fixture.refresh();
+    QVERIFY(bar->isVisible());
+    QVERIFY(fixture.view->viewport()->width() < wide);
+    QCOMPARE(bar->value(), bar->maximum());
+    fixture.entries.resize(1);
+    fixture.refresh();
+    QVERIFY(!bar->isVisible());
+    QCOMPARE(fixture.view->viewport()->width(), wide);
 }
 
 ORVEL_TEST_MAIN(QApplication, TestActivityLog)
