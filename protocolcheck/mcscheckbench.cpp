@@ -14,7 +14,7 @@ using namespace Qt::StringLiterals;
 
 namespace {
 
-constexpr int attemptIntervalMs = 50;
+constexpr int attemptIntervalMs = 20;
 
 bool succeeded(const MCsCheckLink::Frame &answer)
 {

@@ -23,7 +23,7 @@ ExitStatus MCsProtocolCheck::run()
     reportCounts();
     if (m_settings.interrupted())
         return Interrupted;
-    return m_differing == 0 && tidy ? AllHold : SomethingDiffers;
+    return m_differing == 0 && m_untried == 0 && tidy ? AllHold : NotAllHold;
 }
 
 bool MCsProtocolCheck::start()

@@ -4,7 +4,7 @@
 
 namespace Scheduler::ProtocolCheck {
 
-enum ExitStatus { AllHold = 0, SomethingDiffers = 1, NotChecked = 2, Interrupted = 130 };
+enum ExitStatus { AllHold = 0, NotAllHold = 1, NotChecked = 2, Interrupted = 130 };
 
 /// Tries every rule on the daemon at the endpoint and reports each. It changes nothing there but tasks and groups of
 /// its own, and removes those, whatever comes.

@@ -45,7 +45,8 @@ the manager can be run, shown and tested where the real one is not installed.
 It simulates the runs of the tasks, and starts no program.
 .
 It brings the user service SchedulerService, which the manager starts when no
-daemon answers.")
+daemon answers, and orvel-protocol-check, which tells the author of a daemon
+where it breaks the protocol.")
 set(CPACK_DEBIAN_DEVDAEMON_PACKAGE_RECOMMENDS "systemd")
 set(CPACK_DEBIAN_DEVDAEMON_PACKAGE_SUGGESTS "orvel-scheduler-manager")
 

@@ -20,7 +20,11 @@ CMAKE, BUILD, SOURCE = (Path(argument) for argument in sys.argv[1:4])
 ID = "com.tamrix.OrvelSchedulerManager"
 FIRST_PREFIX = "/prefix-of-the-installation"
 ICON_SIZES = [16, 22, 24, 32, 48, 64, 128, 256]
-PROGRAMS = {"manager": "orvel-scheduler-manager", "devdaemon": "orvel-dev-daemon"}
+MANAGER, DAEMON, CHECK = "orvel-scheduler-manager", "orvel-dev-daemon", "orvel-protocol-check"
+# The component of each program.
+PROGRAMS = {MANAGER: "manager", DAEMON: "devdaemon", CHECK: "devdaemon"}
+# With what an unknown option ends it; the check uses 1 for its findings.
+STATUS_OF_MISUSE = {MANAGER: 1, DAEMON: 1, CHECK: 2}
 
 
 def common_files(program):
@@ -32,11 +36,13 @@ def icon(size):
 
 
 EXPECTED = {
-    "manager": common_files(PROGRAMS["manager"])
+    "manager": common_files(MANAGER)
     | {f"share/applications/{ID}.desktop", f"share/metainfo/{ID}.metainfo.xml"}
     | {f"share/icons/hicolor/scalable/apps/{ID}.svg"}
     | {icon(size) for size in ICON_SIZES},
-    "devdaemon": common_files(PROGRAMS["devdaemon"]) | {"lib/systemd/user/SchedulerService.service"},
+    "devdaemon": common_files(DAEMON)
+    | common_files(CHECK)
+    | {"lib/systemd/user/SchedulerService.service"},
 }
 
 
@@ -48,7 +54,7 @@ class InstallTest(unittest.TestCase):
         cls.directory = Path(tempfile.mkdtemp())
         cls.addClassCleanup(shutil.rmtree, cls.directory)
         cls.trees = {}
-        for component in PROGRAMS:
+        for component in EXPECTED:
             # Below a root directory, so that a destination that is absolute after all stays in here.
             root = cls.directory / f"root of {component}"
             command = [CMAKE, "--install", BUILD, "--prefix", FIRST_PREFIX, "--component", component]
@@ -62,14 +68,14 @@ class InstallTest(unittest.TestCase):
         tree = self.trees[component]
         return {str(path.relative_to(tree)) for path in tree.rglob("*") if not path.is_dir()}
 
-    def run_program(self, component, *arguments):
+    def run_program(self, program, *arguments):
         home = self.directory / "home"
         home.mkdir(mode=0o700, exist_ok=True)
         environment = {"PATH": os.environ["PATH"], "QT_QPA_PLATFORM": "offscreen"}
         environment |= {"HOME": str(home), "XDG_RUNTIME_DIR": str(home)}
         environment |= {key: value for key, value in os.environ.items() if key.startswith(("LSAN_", "ASAN_", "UBSAN_"))}
         return subprocess.run(
-            [self.trees[component] / "bin" / PROGRAMS[component], *arguments],
+            [self.trees[PROGRAMS[program]] / "bin" / program, *arguments],
             env=environment, capture_output=True, text=True, timeout=60,
         )
 
@@ -82,16 +88,16 @@ class InstallTest(unittest.TestCase):
                 self.assertEqual(self.files(component), expected)
 
     def test_programs_may_be_run_and_other_files_not(self):
-        for component, program in PROGRAMS.items():
+        for component in EXPECTED:
             for name in self.files(component):
                 with self.subTest(name):
                     mode = (self.trees[component] / name).stat().st_mode & 0o777
-                    self.assertEqual(mode, 0o755 if name == f"bin/{program}" else 0o644)
+                    self.assertEqual(mode, 0o755 if name.startswith("bin/") else 0o644)
 
     def test_no_text_names_a_directory_of_the_build(self):
         unwanted = {str(BUILD).encode(), str(SOURCE).encode()}
-        for component, program in PROGRAMS.items():
-            for name in self.files(component) - {f"bin/{program}"}:
+        for component in EXPECTED:
+            for name in self.files(component) - {f"bin/{program}" for program in PROGRAMS}:
                 content = (self.trees[component] / name).read_bytes()
                 self.assertFalse([text for text in unwanted if text in content], name)
 
@@ -101,23 +107,23 @@ class InstallTest(unittest.TestCase):
                 self.assertNotIn(FIRST_PREFIX.encode(), (tree / name).read_bytes(), name)
 
     def test_the_moved_programs_run(self):
-        for component, program in PROGRAMS.items():
+        for program in PROGRAMS:
             with self.subTest(program):
-                result = self.run_program(component, "--help")
+                result = self.run_program(program, "--help")
                 self.assertEqual((result.returncode, result.stderr), (0, ""))
                 self.assertIn("Usage: ", result.stdout)
 
     def test_the_moved_programs_refuse_an_unknown_option(self):
-        for component, program in PROGRAMS.items():
+        for program, status in STATUS_OF_MISUSE.items():
             with self.subTest(program):
-                result = self.run_program(component, "--nonsense")
-                self.assertEqual((result.returncode, result.stdout), (1, ""))
+                result = self.run_program(program, "--nonsense")
+                self.assertEqual((result.returncode, result.stdout), (status, ""))
                 self.assertIn("nonsense", result.stderr)
 
     def test_manual_and_completion_know_the_options_of_the_program(self):
-        for component, program in PROGRAMS.items():
+        for program, component in PROGRAMS.items():
             with self.subTest(program):
-                options = set(re.findall(r"--[a-z][a-z-]*", self.run_program(component, "--help").stdout))
+                options = set(re.findall(r"--[a-z][a-z-]*", self.run_program(program, "--help").stdout))
                 self.assertIn("--help", options)
                 manual = self.text_of(component, f"share/man/man1/{program}.1").replace("\\-", "-")
                 section = manual.split(".SH OPTIONS")[1].split(".SH ")[0]
@@ -127,17 +133,18 @@ class InstallTest(unittest.TestCase):
 
     def test_the_completion_offers_the_values_that_fit(self):
         cases = [
-            ("manager", ["--lang"], ["--language"]),
-            ("manager", ["--language", "zh"], ["zh", "zh_TW"]),
-            ("manager", ["--task-type", "task_type.t"], ["task_type.test"]),
-            ("manager", ["--program-name", ""], []),
-            ("devdaemon", ["--tasks", ""], []),
-            ("devdaemon", ["--ver"], ["--verbose", "--version"]),
+            (MANAGER, ["--lang"], ["--language"]),
+            (MANAGER, ["--language", "zh"], ["zh", "zh_TW"]),
+            (MANAGER, ["--task-type", "task_type.t"], ["task_type.test"]),
+            (MANAGER, ["--program-name", ""], []),
+            (DAEMON, ["--tasks", ""], []),
+            (DAEMON, ["--ver"], ["--verbose", "--version"]),
+            (CHECK, ["--task-type", "task_type.t"], ["task_type.test"]),
+            (CHECK, ["--l"], ["--list"]),
         ]
-        for component, words, offered in cases:
+        for program, words, offered in cases:
             with self.subTest(words):
-                program = PROGRAMS[component]
-                file = self.trees[component] / "share/bash-completion/completions" / program
+                file = self.trees[PROGRAMS[program]] / "share/bash-completion/completions" / program
                 script = (
                     'source "$1"; COMP_WORDS=("${@:2}"); COMP_CWORD=$(($# - 2)); '
                     f"_{program.replace('-', '_')}; printf '%s\\n' \"${{COMPREPLY[@]}}\""
@@ -151,7 +158,7 @@ class InstallTest(unittest.TestCase):
         entry.optionxform = str
         entry.read_string(self.text_of("manager", f"share/applications/{ID}.desktop"))
         self.assertEqual(entry["Desktop Entry"]["Icon"], ID)
-        self.assertEqual(entry["Desktop Entry"]["Exec"], PROGRAMS["manager"])
+        self.assertEqual(entry["Desktop Entry"]["Exec"], MANAGER)
         metainfo = ElementTree.fromstring(self.text_of("manager", f"share/metainfo/{ID}.metainfo.xml"))
         self.assertEqual(metainfo.findtext("id"), ID)
         self.assertEqual(metainfo.findtext("launchable"), f"{ID}.desktop")
@@ -161,7 +168,7 @@ class InstallTest(unittest.TestCase):
 
     def test_the_newest_release_of_the_metainfo_is_the_version_of_the_program(self):
         metainfo = ElementTree.fromstring(self.text_of("manager", f"share/metainfo/{ID}.metainfo.xml"))
-        version = self.run_program("manager", "--version").stdout.split()[-1]
+        version = self.run_program(MANAGER, "--version").stdout.split()[-1]
         self.assertEqual(metainfo.find("releases/release").get("version"), version)
 
     def test_icons_have_the_size_of_their_folder(self):
