@@ -23,7 +23,7 @@ LIBRARY = re.compile(r"^orvel_add_library\((\w+)\b[^)]*?\bLINK\b([^)]*)\)", re.M
 PROGRAM = re.compile(r"^add_executable\(([\w-]+)", re.MULTILINE)
 
 # Outside the arrows, but not above "../".
-OTHER_FOLDERS = ["tests", "benchmarks", "tools"]
+OTHER_FOLDERS = ["tests", "benchmarks", "tools", "examples"]
 
 # A row of the table: the targets of a folder, and the folders that it stands on.
 Folder = namedtuple("Folder", "targets lower")
