@@ -12,7 +12,7 @@ enum class JsonKind { Text, Flag, Number, Object, List, Date, Id, EntryNumber };
 /// A member of a record, which may be left out or null unless it is an id.
 struct Member {
     QLatin1StringView key;
-    JsonKind kind;
+    JsonKind kind = JsonKind::Text;
 };
 
 // The members of the records, by kind of record.

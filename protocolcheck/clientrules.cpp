@@ -46,7 +46,7 @@ void secondOfATypeIsRefused(MCsCheckBench &bench)
     const QJsonObject answer = secondRegistration(bench);
     bench.expect(answer.value("ok"_L1) == QJsonValue(false) &&
                      answer["error"_L1]["code"_L1].toString() == "CLIENT_TYPE_ALREADY_CONNECTED"_L1,
-                 u"a refusal with the code CLIENT_TYPE_ALREADY_CONNECTED"_s, textOf(answer));
+                 u"a refusal with the code CLIENT_TYPE_ALREADY_CONNECTED"_s, answer);
 }
 
 void firstOfATypeGoesOn(MCsCheckBench &bench)

@@ -59,7 +59,7 @@ void keyOrder(MCsCheckBench &bench)
     const QString id = bench.newId();
     const QByteArray request = R"({"payload":{},"id":")" + id.toUtf8() + R"(","cmd":"tasktype.list"})";
     const QJsonObject answer = bench.askRaw(request + '\n', id);
-    bench.expect(answer.value("ok"_L1) == QJsonValue(true), u"tasktype.list to succeed"_s, textOf(answer));
+    bench.expect(answer.value("ok"_L1) == QJsonValue(true), u"tasktype.list to succeed"_s, answer);
 }
 
 void idUnchanged(MCsCheckBench &bench)

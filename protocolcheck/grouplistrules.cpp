@@ -1,5 +1,4 @@
 #include "answerform.h"
-#include "jsontext.h"
 #include "mcscheckbench.h"
 
 namespace Scheduler::ProtocolCheck {
@@ -27,7 +26,7 @@ void list(MCsCheckBench &bench)
 {
     const QString id = bench.makeGroup();
     const QJsonArray groups = listed(bench, bench.workingType());
-    bench.expect(placeOf(id, groups) >= 0, u"the group '%1' among those of its type"_s.arg(id), textOf(groups));
+    bench.expect(placeOf(id, groups) >= 0, u"the group '%1' among those of its type"_s.arg(id), groups);
 }
 
 void records(MCsCheckBench &bench)
@@ -41,7 +40,7 @@ void parents(MCsCheckBench &bench)
 {
     const QString id = bench.makeGroup();
     const QJsonArray groups = listed(bench, {});
-    bench.expect(placeOf(id, groups) >= 0, u"the group '%1' among those of the empty type"_s.arg(id), textOf(groups));
+    bench.expect(placeOf(id, groups) >= 0, u"the group '%1' among those of the empty type"_s.arg(id), groups);
 }
 
 void order(MCsCheckBench &bench)
@@ -50,7 +49,7 @@ void order(MCsCheckBench &bench)
     const QString earlier = bench.makeGroup({{u"displayOrder"_s, 10}});
     const QJsonArray groups = listed(bench, bench.workingType());
     bench.expect(placeOf(earlier, groups) < placeOf(later, groups),
-                 u"the group with the displayOrder 10 in front of that with 20"_s, textOf(groups));
+                 u"the group with the displayOrder 10 in front of that with 20"_s, groups);
 }
 
 void counts(MCsCheckBench &bench)

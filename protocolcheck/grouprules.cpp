@@ -1,5 +1,4 @@
 #include "answerform.h"
-#include "jsontext.h"
 #include "mcscheckbench.h"
 
 namespace Scheduler::ProtocolCheck {
@@ -13,7 +12,7 @@ void create(MCsCheckBench &bench)
     const QJsonObject document = bench.groupDocument();
     const QJsonValue id = bench.succeed(u"group.create"_s, {{u"group"_s, document}}).value("groupId"_L1);
     bench.adoptGroup(id.toString());
-    bench.expect(isId(id), u"'groupId' to be a string, not empty and without a comma"_s, textOf(id));
+    bench.expect(isId(id), u"'groupId' to be a string, not empty and without a comma"_s, id);
 }
 
 void get(MCsCheckBench &bench)
@@ -56,7 +55,7 @@ void remove(MCsCheckBench &bench)
     const QJsonArray groups =
         bench.prepare(u"group.listByTaskType"_s, {{u"taskType"_s, type}}).value("groups"_L1).toArray();
     for (const QJsonValue &group : groups)
-        bench.expect(group["id"_L1].toString() != id, u"a deleted group not to be listed"_s, textOf(group));
+        bench.expect(group["id"_L1].toString() != id, u"a deleted group not to be listed"_s, group);
 }
 
 void removeKeepsTasks(MCsCheckBench &bench)

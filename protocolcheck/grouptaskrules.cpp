@@ -1,4 +1,3 @@
-#include "jsontext.h"
 #include "mcscheckbench.h"
 
 namespace Scheduler::ProtocolCheck {
@@ -71,8 +70,7 @@ void deleteAll(MCsCheckBench &bench)
     carryOut(bench, u"group.deleteAllTasks"_s, group);
     for (const QString &taskId : group.taskIds) {
         const QJsonObject answer = bench.ask(u"task.get"_s, {{u"taskId"_s, taskId}});
-        bench.expect(answer.value("ok"_L1) == QJsonValue(false), u"the tasks of the group to be gone"_s,
-                     textOf(answer));
+        bench.expect(answer.value("ok"_L1) == QJsonValue(false), u"the tasks of the group to be gone"_s, answer);
     }
 }
 

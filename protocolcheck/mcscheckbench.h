@@ -44,6 +44,7 @@ public:
     [[nodiscard]] bool going() const;
     void notTried(const QString &why);
     void expect(bool fits, const QString &expected, const QString &came);
+    void expect(bool fits, const QString &expected, const QJsonValue &came);
     /// Expects the members of the one object to be in the other, with the same values.
     void expectMembers(const QJsonObject &expected, const QJsonObject &came);
 

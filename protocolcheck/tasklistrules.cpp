@@ -1,5 +1,4 @@
 #include "answerform.h"
-#include "jsontext.h"
 #include "mcscheckbench.h"
 
 #include <algorithm>
@@ -38,14 +37,14 @@ void byType(MCsCheckBench &bench)
 {
     const QString id = bench.makeTask();
     const QJsonArray tasks = ofType(bench, bench.workingType());
-    bench.expect(holds(tasks, id), u"the task '%1' among those of its type"_s.arg(id), textOf(tasks));
+    bench.expect(holds(tasks, id), u"the task '%1' among those of its type"_s.arg(id), tasks);
 }
 
 void byAllTypes(MCsCheckBench &bench)
 {
     const QString id = bench.makeTask();
     const QJsonArray tasks = ofType(bench, u"task_type.all"_s);
-    bench.expect(holds(tasks, id), u"the task '%1' among those of all types"_s.arg(id), textOf(tasks));
+    bench.expect(holds(tasks, id), u"the task '%1' among those of all types"_s.arg(id), tasks);
 }
 
 void typesApart(MCsCheckBench &bench)
@@ -54,7 +53,7 @@ void typesApart(MCsCheckBench &bench)
     const QString type = bench.workingType();
     const QJsonArray tasks = ofType(bench, type);
     for (const QJsonValue &task : tasks)
-        bench.expect(task["type"_L1].toString() == type, u"tasks of the type %1 only"_s.arg(type), textOf(task));
+        bench.expect(task["type"_L1].toString() == type, u"tasks of the type %1 only"_s.arg(type), task);
 }
 
 void records(MCsCheckBench &bench)
@@ -78,7 +77,7 @@ void byGroup(MCsCheckBench &bench)
     const QString id = bench.makeTask({{u"groupId"_s, groupId}});
     bench.makeTask();
     const QJsonArray tasks = ofGroup(bench, groupId);
-    bench.expect(tasks.size() == 1 && holds(tasks, id), u"the group's only task '%1'"_s.arg(id), textOf(tasks));
+    bench.expect(tasks.size() == 1 && holds(tasks, id), u"the group's only task '%1'"_s.arg(id), tasks);
 }
 
 void withoutGroup(MCsCheckBench &bench)
@@ -86,8 +85,8 @@ void withoutGroup(MCsCheckBench &bench)
     const QString id = bench.makeTask();
     const QString grouped = bench.makeTask({{u"groupId"_s, bench.makeGroup()}});
     const QJsonArray tasks = ofGroup(bench, ungrouped());
-    bench.expect(holds(tasks, id), u"the task '%1', which has no group"_s.arg(id), textOf(tasks));
-    bench.expect(!holds(tasks, grouped), u"no task that has a group"_s, textOf(tasks));
+    bench.expect(holds(tasks, id), u"the task '%1', which has no group"_s.arg(id), tasks);
+    bench.expect(!holds(tasks, grouped), u"no task that has a group"_s, tasks);
 }
 
 void countOfGroup(MCsCheckBench &bench)

@@ -23,7 +23,7 @@ void create(MCsCheckBench &bench)
     const QJsonObject document = bench.taskDocument();
     const QJsonValue id = bench.succeed(u"task.create"_s, {{u"task"_s, document}}).value("taskId"_L1);
     bench.adoptTask(id.toString());
-    bench.expect(isId(id), u"'taskId' to be a string, not empty and without a comma"_s, textOf(id));
+    bench.expect(isId(id), u"'taskId' to be a string, not empty and without a comma"_s, id);
 }
 
 void keepsDocument(MCsCheckBench &bench)
@@ -79,7 +79,7 @@ void remove(MCsCheckBench &bench)
     const QJsonObject query{{u"type"_s, bench.workingType()}};
     const QJsonArray tasks = bench.prepare(u"task.listByType"_s, query).value("tasks"_L1).toArray();
     for (const QJsonValue &task : tasks)
-        bench.expect(task["id"_L1].toString() != id, u"a deleted task not to be listed"_s, textOf(task));
+        bench.expect(task["id"_L1].toString() != id, u"a deleted task not to be listed"_s, task);
 }
 
 } // namespace

@@ -1,5 +1,4 @@
 #include "answerform.h"
-#include "jsontext.h"
 #include "mcscheckbench.h"
 
 namespace Scheduler::ProtocolCheck {
@@ -11,7 +10,7 @@ namespace {
 void types(MCsCheckBench &bench)
 {
     const QJsonValue list = bench.succeed(u"tasktype.list"_s).value("taskTypes"_L1);
-    bench.expect(list.isArray(), u"'taskTypes' to be an array"_s, textOf(list));
+    bench.expect(list.isArray(), u"'taskTypes' to be an array"_s, list);
     const QString problem = listProblem(list.toArray(), taskTypeMembers());
     bench.expect(problem.isEmpty(), u"task types in their form"_s, problem);
 }
@@ -29,7 +28,7 @@ void noTypeForAll(MCsCheckBench &bench)
 {
     const QJsonArray list = bench.succeed(u"tasktype.list"_s).value("taskTypes"_L1).toArray();
     for (const QJsonValue &type : list)
-        bench.expect(type["type"_L1].toString() != "task_type.all"_L1, u"no type task_type.all"_s, textOf(type));
+        bench.expect(type["type"_L1].toString() != "task_type.all"_L1, u"no type task_type.all"_s, type);
 }
 
 } // namespace
