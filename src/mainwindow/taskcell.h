@@ -21,8 +21,8 @@ struct TaskRow : QSharedData {
 
 /// A cell of the task table. The cells of a row show one TaskRow and put it into words and colours when they are
 /// painted: of ten thousand rows only those in sight ever are, an update touches the TaskRow alone, and no cell needs
-/// the list of values that QTableWidgetItem keeps. What is shown changes through row() and showChange(), and not through
-/// the setters of the item.
+/// the list of values that QTableWidgetItem keeps. What is shown changes through row() and showChange(), and not
+/// through the setters of the item.
 class TaskCell : public QTableWidgetItem {
 public:
     static constexpr int Type = QTableWidgetItem::UserType + 1;
