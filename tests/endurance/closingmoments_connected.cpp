@@ -46,7 +46,9 @@ ClosingMoment reconnecting(const char *name, const QString &heldCmd)
                      return;
                  }
                  when([&scene] { return scene.fixture.daemon.heldCount() > 0; }, reached);
-                 WindowFixture::fire(scene.fixture.timer("reconnectTimer"));
+                 // On a slow machine the attempt may be under way by now.
+                 if (QTimer *pause = scene.fixture.timer("reconnectTimer"); pause->isActive())
+                     WindowFixture::fire(pause);
              });
     };
     return {name, true, bringAbout};

@@ -19,6 +19,22 @@ constexpr int patientMs = 20000;
 /// For a command that nothing comes before, so that no good answer has to hurry.
 constexpr int shortMs = 40;
 constexpr int mediumMs = 100;
+/// For a command under whose wait the next connection has to stand.
+constexpr int reconnectionMs = 500;
+
+bool awaitsAnswer(Outcome outcome)
+{
+    return outcome == Outcome::Answered || outcome == Outcome::Refused || outcome == Outcome::Hollow ||
+           outcome == Outcome::OddElements;
+}
+
+/// How long the command waits that the fault strikes.
+int timeoutUnder(Outcome outcome, int withoutAnswer)
+{
+    if (outcome == Outcome::LostAndBack)
+        return reconnectionMs;
+    return awaitsAnswer(outcome) ? answerMs : withoutAnswer;
+}
 
 QJsonObject ok(const QJsonObject &data)
 {
@@ -28,12 +44,6 @@ QJsonObject ok(const QJsonObject &data)
 QJsonArray oneOf(const QJsonObject &object)
 {
     return {object};
-}
-
-bool awaitsAnswer(Outcome outcome)
-{
-    return outcome == Outcome::Answered || outcome == Outcome::Refused || outcome == Outcome::Hollow ||
-           outcome == Outcome::OddElements;
 }
 
 } // namespace
@@ -116,7 +126,7 @@ void Stage::arm(const Fault &fault, const QString &command, int number, bool com
     m_countdown = number;
     m_struck.reset();
     m_mended = m_settled = false;
-    m_timeout = awaitsAnswer(fault.outcome) ? answerMs : comesFirst ? shortMs : mediumMs;
+    m_timeout = timeoutUnder(fault.outcome, comesFirst ? shortMs : mediumMs);
     client->setCommandTimeout(m_timeout);
     if (fault.outcome == Outcome::LostAndBack)
         m_hurry.start(1);
@@ -145,7 +155,7 @@ void Stage::strike(const QJsonObject &answer)
 
 void Stage::hasten()
 {
-    m_timeout = qMin(m_timeout, awaitsAnswer(m_fault.outcome) ? answerMs : shortMs);
+    m_timeout = qMin(m_timeout, timeoutUnder(m_fault.outcome, shortMs));
     client->setCommandTimeout(m_timeout);
 }
 

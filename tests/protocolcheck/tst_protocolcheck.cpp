@@ -118,7 +118,7 @@ TestProtocolCheck::Report TestProtocolCheck::checkThroughProxy(const Defect &def
         return {};
     CheckSettings settings;
     settings.endpoint = proxyEndpoint();
-    settings.answerMs = 1000;
+    settings.answerMs = 4000; // some wait for what never comes
     settings.typeFreeMs = 300;
     return check(settings);
 }
