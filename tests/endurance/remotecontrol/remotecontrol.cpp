@@ -64,7 +64,7 @@ class RemoteControlPlugin : public QGenericPlugin {
     Q_PLUGIN_METADATA(IID QGenericPluginFactoryInterface_iid FILE "remotecontrol.json")
 
 public:
-    QObject *create(const QString & /*name*/, const QString & /*specification*/) override
+    QObject *create(const QString & /*name*/, const QString & /*values*/) override
     {
         return new RemoteControl;
     }
