@@ -6,6 +6,7 @@
 #include <QApplication>
 #include <QCloseEvent>
 #include <QElapsedTimer>
+#include <QTimer>
 #include <QWindow>
 
 using namespace Scheduler;
@@ -55,8 +56,8 @@ void closeByTitleBar(WindowFixture &fixture)
     } else {
         askToClose(fixture.window.get());
     }
-    QMetaObject::invokeMethod(
-        fixture.window.get(), [&fixture] { closeByTitleBar(fixture); }, Qt::QueuedConnection);
+    // Not as a posted event: those that post the next one keep timers and sockets from their turn.
+    QTimer::singleShot(1, fixture.window.get(), [&fixture] { closeByTitleBar(fixture); });
 }
 
 void quit(WindowFixture & /*fixture*/)
