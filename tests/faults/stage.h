@@ -55,8 +55,10 @@ public:
 private:
     void script();
     void strike(const QJsonObject &answer);
+    void awaitLoss() const;
     void expectLoss() const;
-    void hurryReconnection();
+    void setPace(int pauseMs);
+    void paceReconnection();
 
     Views m_before;
     Fault m_fault;
@@ -66,7 +68,8 @@ private:
     std::optional<QJsonObject> m_struck; ///< the good answer that was not given
     bool m_mended = true;
     bool m_settled = false; ///< since the strike was armed
-    QTimer m_hurry;
+    int m_pause = 0;        ///< what the client's pauses are made to be while the pacer runs
+    QTimer m_pacer;
     QTimer m_watch;
 };
 
