@@ -4,6 +4,7 @@
 #include "mcsschedulerclient.h"
 #include "mcstaskdialog.h"
 #include "messagebox.h"
+#include "taskcell.h"
 #include "tasktexts.h"
 #include "tasktypes.h"
 #include "ui_mcsmainwindow.h"
@@ -34,8 +35,8 @@ std::optional<SelectedTask> selectedTask(const QTableWidget &table)
     if (selected.isEmpty())
         return std::nullopt;
     const int row = selected.first()->row();
-    const QTableWidgetItem *name = table.item(row, 0);
-    const QTableWidgetItem *status = table.item(row, 2);
+    const QTableWidgetItem *name = table.item(row, NameColumn);
+    const QTableWidgetItem *status = table.item(row, StatusColumn);
     if (name == nullptr)
         return std::nullopt;
     return SelectedTask{name->data(Qt::UserRole).toString(), name->text(),

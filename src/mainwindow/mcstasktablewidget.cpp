@@ -1,6 +1,7 @@
 #include "mcstasktablewidget.h"
 
 #include "plaintooltipdelegate.h"
+#include "taskcell.h"
 #include "taskdragmime.h"
 
 #include <QDrag>
@@ -43,7 +44,7 @@ QStringList MCsTaskTableWidget::selectedTaskIds() const
     QSet<QString> seen;
     const QList<QTableWidgetItem *> selected = selectedItems(); // one per cell
     for (const QTableWidgetItem *cell : selected) {
-        const QTableWidgetItem *first = item(cell->row(), 0);
+        const QTableWidgetItem *first = item(cell->row(), NameColumn);
         const QString id = first == nullptr ? QString() : first->data(Qt::UserRole).toString();
         if (id.isEmpty() || seen.contains(id))
             continue;
