@@ -52,12 +52,6 @@ protected:
         return m_connection->sendRequest(cmd, {}, ms);
     }
 
-    /// The id of the first request of the command.
-    [[nodiscard]] QString sentId(const QString &cmd) const
-    {
-        return m_daemon->requests(cmd).constFirst().value(QLatin1StringView("id")).toString();
-    }
-
     [[nodiscard]] static bool isOk(const QJsonObject &response)
     {
         return response.value(QLatin1StringView("ok")).toBool();
