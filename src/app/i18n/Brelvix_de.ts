@@ -1,6 +1,6 @@
 <?xml version="1.0" encoding="utf-8"?>
 <!DOCTYPE TS>
-<TS version="2.1" language="de">
+<TS version="2.1" language="de" sourcelanguage="en">
 <context>
     <name>MCsMainWindow</name>
     <message>
@@ -132,7 +132,7 @@
     </message>
     <message>
         <source>e.g., https://www.example.com</source>
-        <translation>z. B. https://www.example.com</translation>
+        <translation>z.&#xa0;B. https://www.example.com</translation>
     </message>
     <message>
         <source>After completing the above steps, wait for a while for the data or page to load completely :</source>
@@ -228,7 +228,7 @@
     </message>
     <message>
         <source>e.g., .mp4,.avi,.mkv</source>
-        <translation>z. B. .mp4,.avi,.mkv</translation>
+        <translation>z.&#xa0;B. .mp4,.avi,.mkv</translation>
     </message>
     <message>
         <source>⏹️ Auto Stop Condition</source>
@@ -1086,8 +1086,8 @@ Example: [YYYY-MM-DD][hh-mm-ss]_[TaskName]
 Result: 2024-03-15_14-30-45_MyTask.mp4</source>
         <translation>Verfügbare Platzhalter:
 
-[YYYY-MM-DD] - Datum (z. B. 2024-03-15)
-[hh-mm-ss] - Uhrzeit (z. B. 14-30-45)
+[YYYY-MM-DD] - Datum (z.&#xa0;B. 2024-03-15)
+[hh-mm-ss] - Uhrzeit (z.&#xa0;B. 14-30-45)
 [TaskName] - Name der Aufgabe
 [Counter] - Fortlaufende Nummer
 

@@ -136,7 +136,7 @@
     </message>
     <message>
         <source>e.g., https://www.example.com</source>
-        <translation>p. ej., https://www.example.com</translation>
+        <translation>p.&#xa0;ej., https://www.example.com</translation>
     </message>
     <message>
         <source>After completing the above steps, wait for a while for the data or page to load completely :</source>
@@ -240,7 +240,7 @@
     </message>
     <message>
         <source>e.g., .mp4,.avi,.mkv</source>
-        <translation>p. ej., .mp4,.avi,.mkv</translation>
+        <translation>p.&#xa0;ej., .mp4,.avi,.mkv</translation>
     </message>
     <message>
         <source>⏹️ Auto Stop Condition</source>
@@ -1090,8 +1090,8 @@ Example: [YYYY-MM-DD][hh-mm-ss]_[TaskName]
 Result: 2024-03-15_14-30-45_MyTask.mp4</source>
         <translation>Variables de formato disponibles:
 
-[YYYY-MM-DD] - Fecha (p. ej., 2024-03-15)
-[hh-mm-ss] - Hora (p. ej., 14-30-45)
+[YYYY-MM-DD] - Fecha (p.&#xa0;ej., 2024-03-15)
+[hh-mm-ss] - Hora (p.&#xa0;ej., 14-30-45)
 [TaskName] - Nombre de la tarea
 [Counter] - Contador que aumenta automáticamente
 

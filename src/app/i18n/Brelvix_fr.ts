@@ -9,7 +9,7 @@
     </message>
     <message>
         <source>Note: To run the program, sign in to your Windows account and make sure your PC is set not to lock automatically.</source>
-        <translation>Remarque : pour que le programme s’exécute, ouvrez votre session Windows et vérifiez que le verrouillage automatique du PC est désactivé.</translation>
+        <translation>Remarque&#xa0;: pour que le programme s’exécute, ouvrez votre session Windows et vérifiez que le verrouillage automatique du PC est désactivé.</translation>
     </message>
     <message>
         <source>Groups</source>
@@ -17,15 +17,15 @@
     </message>
     <message>
         <source>Task: </source>
-        <translation>Tâche : </translation>
+        <translation>Tâche&#xa0;: </translation>
     </message>
     <message>
         <source>Filter:</source>
-        <translation>Filtre :</translation>
+        <translation>Filtre&#xa0;:</translation>
     </message>
     <message>
         <source>Tasks: 0</source>
-        <translation>Tâches : 0</translation>
+        <translation>Tâches&#xa0;: 0</translation>
     </message>
     <message>
         <source>Name</source>
@@ -49,7 +49,7 @@
     </message>
     <message>
         <source>Activity Log:</source>
-        <translation>Journal d’activité :</translation>
+        <translation>Journal d’activité&#xa0;:</translation>
     </message>
 </context>
 <context>
@@ -60,7 +60,7 @@
     </message>
     <message>
         <source>Task Status : </source>
-        <translation>État de la tâche : </translation>
+        <translation>État de la tâche&#xa0;: </translation>
     </message>
     <message>
         <source>ON</source>
@@ -72,23 +72,23 @@
     </message>
     <message>
         <source>Task Name (*):</source>
-        <translation>Nom de la tâche (*) :</translation>
+        <translation>Nom de la tâche (*)&#xa0;:</translation>
     </message>
     <message>
         <source>Program Name (*):</source>
-        <translation>Nom du programme (*) :</translation>
+        <translation>Nom du programme (*)&#xa0;:</translation>
     </message>
     <message>
         <source>Target Program (*):</source>
-        <translation>Programme cible (*) :</translation>
+        <translation>Programme cible (*)&#xa0;:</translation>
     </message>
     <message>
         <source>Task Type (*):</source>
-        <translation>Type de tâche (*) :</translation>
+        <translation>Type de tâche (*)&#xa0;:</translation>
     </message>
     <message>
         <source>Group:</source>
-        <translation>Groupe :</translation>
+        <translation>Groupe&#xa0;:</translation>
     </message>
     <message>
         <source>💾 Output Settings</source>
@@ -104,7 +104,7 @@
     </message>
     <message>
         <source>Custom Folder:</source>
-        <translation>Dossier personnalisé :</translation>
+        <translation>Dossier personnalisé&#xa0;:</translation>
     </message>
     <message>
         <source>Browse...</source>
@@ -112,7 +112,7 @@
     </message>
     <message>
         <source>File Name Pattern:</source>
-        <translation>Modèle de nom de fichier :</translation>
+        <translation>Modèle de nom de fichier&#xa0;:</translation>
     </message>
     <message>
         <source>[YYYY-MM-DD][hh-mm-ss]_[TaskName]</source>
@@ -128,23 +128,23 @@
     </message>
     <message>
         <source>Run Program:</source>
-        <translation>Exécuter un programme :</translation>
+        <translation>Exécuter un programme&#xa0;:</translation>
     </message>
     <message>
         <source>Open URL:</source>
-        <translation>Ouvrir une URL :</translation>
+        <translation>Ouvrir une URL&#xa0;:</translation>
     </message>
     <message>
         <source>e.g., https://www.example.com</source>
-        <translation>p. ex. https://www.example.com</translation>
+        <translation>p.&#xa0;ex. https://www.example.com</translation>
     </message>
     <message>
         <source>After completing the above steps, wait for a while for the data or page to load completely :</source>
-        <translation>Une fois les étapes ci-dessus terminées, patienter le temps que les données ou la page soient entièrement chargées :</translation>
+        <translation>Une fois les étapes ci-dessus terminées, patienter le temps que les données ou la page soient entièrement chargées&#xa0;:</translation>
     </message>
     <message>
         <source>Wait for :</source>
-        <translation>Délai d’attente :</translation>
+        <translation>Délai d’attente&#xa0;:</translation>
     </message>
     <message>
         <source> seconds</source>
@@ -176,7 +176,7 @@
     </message>
     <message>
         <source>Specified Date/Time(*):</source>
-        <translation>Date/heure spécifiée (*) :</translation>
+        <translation>Date/heure spécifiée (*)&#xa0;:</translation>
     </message>
     <message>
         <source>yyyy-MM-dd HH:mm:ss</source>
@@ -184,7 +184,7 @@
     </message>
     <message>
         <source>Daily Time (HH:MM:SS) *:</source>
-        <translation>Heure quotidienne (HH:MM:SS) * :</translation>
+        <translation>Heure quotidienne (HH:MM:SS)&#xa0;*&#xa0;:</translation>
     </message>
     <message>
         <source>HH:mm:ss</source>
@@ -192,7 +192,7 @@
     </message>
     <message>
         <source>Select Days (*):</source>
-        <translation>Sélectionner les jours (*) :</translation>
+        <translation>Sélectionner les jours (*)&#xa0;:</translation>
     </message>
     <message>
         <source>Mon</source>
@@ -224,23 +224,23 @@
     </message>
     <message>
         <source>Weekly Time (HH:MM:SS) *:</source>
-        <translation>Heure hebdomadaire (HH:MM:SS) * :</translation>
+        <translation>Heure hebdomadaire (HH:MM:SS)&#xa0;*&#xa0;:</translation>
     </message>
     <message>
         <source>Monitor Program (*):</source>
-        <translation>Programme à surveiller (*) :</translation>
+        <translation>Programme à surveiller (*)&#xa0;:</translation>
     </message>
     <message>
         <source>Monitor Folder (*):</source>
-        <translation>Dossier à surveiller (*) :</translation>
+        <translation>Dossier à surveiller (*)&#xa0;:</translation>
     </message>
     <message>
         <source>File Extensions (*):</source>
-        <translation>Extensions de fichier (*) :</translation>
+        <translation>Extensions de fichier (*)&#xa0;:</translation>
     </message>
     <message>
         <source>e.g., .mp4,.avi,.mkv</source>
-        <translation>p. ex. .mp4,.avi,.mkv</translation>
+        <translation>p.&#xa0;ex. .mp4,.avi,.mkv</translation>
     </message>
     <message>
         <source>⏹️ Auto Stop Condition</source>
@@ -264,7 +264,7 @@
     </message>
     <message>
         <source>Duration (*):</source>
-        <translation>Durée (*) :</translation>
+        <translation>Durée (*)&#xa0;:</translation>
     </message>
     <message>
         <source> minutes</source>
@@ -272,7 +272,7 @@
     </message>
     <message>
         <source>Task File(s) Size (*):</source>
-        <translation>Taille des fichiers de la tâche (*) :</translation>
+        <translation>Taille des fichiers de la tâche (*)&#xa0;:</translation>
     </message>
     <message>
         <source> KB</source>
@@ -280,7 +280,7 @@
     </message>
     <message>
         <source>Stop At Time (*):</source>
-        <translation>Heure d’arrêt (*) :</translation>
+        <translation>Heure d’arrêt (*)&#xa0;:</translation>
     </message>
     <message>
         <source>🏁 Action After Auto Stop</source>
@@ -335,23 +335,23 @@
     </message>
     <message>
         <source>Program parameter JSON file not found!</source>
-        <translation>Fichier JSON des paramètres du programme introuvable !</translation>
+        <translation>Fichier JSON des paramètres du programme introuvable&#xa0;!</translation>
     </message>
     <message>
         <source>Failed to open program parameter JSON file!</source>
-        <translation>Impossible d’ouvrir le fichier JSON des paramètres du programme !</translation>
+        <translation>Impossible d’ouvrir le fichier JSON des paramètres du programme&#xa0;!</translation>
     </message>
     <message>
         <source>Program parameter JSON file is empty!</source>
-        <translation>Le fichier JSON des paramètres du programme est vide !</translation>
+        <translation>Le fichier JSON des paramètres du programme est vide&#xa0;!</translation>
     </message>
     <message>
         <source>Missing required arguments: %1</source>
-        <translation>Arguments obligatoires manquants : %1</translation>
+        <translation>Arguments obligatoires manquants&#xa0;: %1</translation>
     </message>
     <message>
         <source>task type error!</source>
-        <translation>Type de tâche incorrect !</translation>
+        <translation>Type de tâche incorrect&#xa0;!</translation>
     </message>
     <message>
         <source>All Types</source>
@@ -453,67 +453,67 @@
     </message>
     <message>
         <source>[INFO] Task created: %1</source>
-        <translation>[INFO] Tâche créée : %1</translation>
+        <translation>[INFO] Tâche créée&#xa0;: %1</translation>
     </message>
     <message>
         <source>[ERROR] Failed to create task: %1</source>
-        <translation>[ERROR] Impossible de créer la tâche : %1</translation>
+        <translation>[ERROR] Impossible de créer la tâche&#xa0;: %1</translation>
     </message>
     <message>
         <source>[INFO] Task updated: %1</source>
-        <translation>[INFO] Tâche modifiée : %1</translation>
+        <translation>[INFO] Tâche modifiée&#xa0;: %1</translation>
     </message>
     <message>
         <source>[ERROR] Failed to update task: %1</source>
-        <translation>[ERROR] Impossible de modifier la tâche : %1</translation>
+        <translation>[ERROR] Impossible de modifier la tâche&#xa0;: %1</translation>
     </message>
     <message>
         <source>[INFO] Task deleted: %1</source>
-        <translation>[INFO] Tâche supprimée : %1</translation>
+        <translation>[INFO] Tâche supprimée&#xa0;: %1</translation>
     </message>
     <message>
         <source>[ERROR] Failed to delete task: %1</source>
-        <translation>[ERROR] Impossible de supprimer la tâche : %1</translation>
+        <translation>[ERROR] Impossible de supprimer la tâche&#xa0;: %1</translation>
     </message>
     <message>
         <source>[INFO] Task enabled: %1</source>
-        <translation>[INFO] Tâche activée : %1</translation>
+        <translation>[INFO] Tâche activée&#xa0;: %1</translation>
     </message>
     <message>
         <source>[ERROR] Failed to enable task: %1</source>
-        <translation>[ERROR] Impossible d’activer la tâche : %1</translation>
+        <translation>[ERROR] Impossible d’activer la tâche&#xa0;: %1</translation>
     </message>
     <message>
         <source>[INFO] Task disabled: %1</source>
-        <translation>[INFO] Tâche désactivée : %1</translation>
+        <translation>[INFO] Tâche désactivée&#xa0;: %1</translation>
     </message>
     <message>
         <source>[ERROR] Failed to disable task: %1</source>
-        <translation>[ERROR] Impossible de désactiver la tâche : %1</translation>
+        <translation>[ERROR] Impossible de désactiver la tâche&#xa0;: %1</translation>
     </message>
     <message>
         <source>[INFO] Task triggered: %1</source>
-        <translation>[INFO] Tâche lancée : %1</translation>
+        <translation>[INFO] Tâche lancée&#xa0;: %1</translation>
     </message>
     <message>
         <source>[ERROR] Failed to trigger task: %1</source>
-        <translation>[ERROR] Impossible de lancer la tâche : %1</translation>
+        <translation>[ERROR] Impossible de lancer la tâche&#xa0;: %1</translation>
     </message>
     <message>
         <source>[INFO] Task moved to group &apos;%1&apos;</source>
-        <translation>[INFO] Tâche déplacée vers le groupe « %1 »</translation>
+        <translation>[INFO] Tâche déplacée vers le groupe «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>[ERROR] Failed to move task to group &apos;%1&apos;</source>
-        <translation>[ERROR] Impossible de déplacer la tâche vers le groupe « %1 »</translation>
+        <translation>[ERROR] Impossible de déplacer la tâche vers le groupe «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source>[INFO] %1 tasks moved to group &apos;%2&apos;</source>
-        <translation>[INFO] %1 tâches déplacées vers le groupe « %2 »</translation>
+        <translation>[INFO] %1 tâches déplacées vers le groupe «&#xa0;%2&#xa0;»</translation>
     </message>
     <message>
         <source>[ERROR] Failed to move %1 tasks to group &apos;%2&apos;</source>
-        <translation>[ERROR] Impossible de déplacer %1 tâches vers le groupe « %2 »</translation>
+        <translation>[ERROR] Impossible de déplacer %1 tâches vers le groupe «&#xa0;%2&#xa0;»</translation>
     </message>
     <message>
         <source>[INFO] Group list refreshed</source>
@@ -525,27 +525,27 @@
     </message>
     <message>
         <source>[INFO] Group created: %1</source>
-        <translation>[INFO] Groupe créé : %1</translation>
+        <translation>[INFO] Groupe créé&#xa0;: %1</translation>
     </message>
     <message>
         <source>[ERROR] Failed to create group: %1</source>
-        <translation>[ERROR] Impossible de créer le groupe : %1</translation>
+        <translation>[ERROR] Impossible de créer le groupe&#xa0;: %1</translation>
     </message>
     <message>
         <source>[INFO] Group updated: %1</source>
-        <translation>[INFO] Groupe modifié : %1</translation>
+        <translation>[INFO] Groupe modifié&#xa0;: %1</translation>
     </message>
     <message>
         <source>[ERROR] Failed to update group: %1</source>
-        <translation>[ERROR] Impossible de modifier le groupe : %1</translation>
+        <translation>[ERROR] Impossible de modifier le groupe&#xa0;: %1</translation>
     </message>
     <message>
         <source>[INFO] Group deleted: %1</source>
-        <translation>[INFO] Groupe supprimé : %1</translation>
+        <translation>[INFO] Groupe supprimé&#xa0;: %1</translation>
     </message>
     <message>
         <source>[ERROR] Failed to delete group: %1</source>
-        <translation>[ERROR] Impossible de supprimer le groupe : %1</translation>
+        <translation>[ERROR] Impossible de supprimer le groupe&#xa0;: %1</translation>
     </message>
     <message>
         <source>[INFO] All tasks in the group enabled</source>
@@ -589,23 +589,23 @@
     </message>
     <message>
         <source>Task &apos;%1&apos; execution started</source>
-        <translation>Exécution de la tâche « %1 » démarrée</translation>
+        <translation>Exécution de la tâche «&#xa0;%1&#xa0;» démarrée</translation>
     </message>
     <message>
         <source> (run: %1)</source>
-        <translation> (exécution : %1)</translation>
+        <translation> (exécution&#xa0;: %1)</translation>
     </message>
     <message>
         <source>Task &apos;%1&apos; completed successfully</source>
-        <translation>Tâche « %1 » terminée avec succès</translation>
+        <translation>Tâche «&#xa0;%1&#xa0;» terminée avec succès</translation>
     </message>
     <message>
         <source> (exit: %1)</source>
-        <translation> (code de sortie : %1)</translation>
+        <translation> (code de sortie&#xa0;: %1)</translation>
     </message>
     <message>
         <source>Task &apos;%1&apos; execution failed</source>
-        <translation>Échec de l’exécution de la tâche « %1 »</translation>
+        <translation>Échec de l’exécution de la tâche «&#xa0;%1&#xa0;»</translation>
     </message>
     <message>
         <source> - %1</source>
@@ -613,51 +613,51 @@
     </message>
     <message>
         <source>Task &apos;%1&apos; execution timed out</source>
-        <translation>Délai d’exécution de la tâche « %1 » dépassé</translation>
+        <translation>Délai d’exécution de la tâche «&#xa0;%1&#xa0;» dépassé</translation>
     </message>
     <message>
         <source>Task &apos;%1&apos; execution cancelled</source>
-        <translation>Exécution de la tâche « %1 » annulée</translation>
+        <translation>Exécution de la tâche «&#xa0;%1&#xa0;» annulée</translation>
     </message>
     <message>
         <source>Group &apos;%1&apos; created</source>
-        <translation>Groupe « %1 » créé</translation>
+        <translation>Groupe «&#xa0;%1&#xa0;» créé</translation>
     </message>
     <message>
         <source>Group &apos;%1&apos; updated</source>
-        <translation>Groupe « %1 » modifié</translation>
+        <translation>Groupe «&#xa0;%1&#xa0;» modifié</translation>
     </message>
     <message>
         <source>Group &apos;%1&apos; deleted</source>
-        <translation>Groupe « %1 » supprimé</translation>
+        <translation>Groupe «&#xa0;%1&#xa0;» supprimé</translation>
     </message>
     <message>
         <source>Task &apos;%1&apos; created</source>
-        <translation>Tâche « %1 » créée</translation>
+        <translation>Tâche «&#xa0;%1&#xa0;» créée</translation>
     </message>
     <message>
         <source> (schedule: %1)</source>
-        <translation> (planification : %1)</translation>
+        <translation> (planification&#xa0;: %1)</translation>
     </message>
     <message>
         <source>Task &apos;%1&apos; updated</source>
-        <translation>Tâche « %1 » modifiée</translation>
+        <translation>Tâche «&#xa0;%1&#xa0;» modifiée</translation>
     </message>
     <message>
         <source>Task &apos;%1&apos; deleted</source>
-        <translation>Tâche « %1 » supprimée</translation>
+        <translation>Tâche «&#xa0;%1&#xa0;» supprimée</translation>
     </message>
     <message>
         <source>Task &apos;%1&apos; enabled</source>
-        <translation>Tâche « %1 » activée</translation>
+        <translation>Tâche «&#xa0;%1&#xa0;» activée</translation>
     </message>
     <message>
         <source>Task &apos;%1&apos; disabled</source>
-        <translation>Tâche « %1 » désactivée</translation>
+        <translation>Tâche «&#xa0;%1&#xa0;» désactivée</translation>
     </message>
     <message>
         <source>%1 on &apos;%2&apos;</source>
-        <translation>%1 sur « %2 »</translation>
+        <translation>%1 sur «&#xa0;%2&#xa0;»</translation>
     </message>
     <message>
         <source>Disconnected</source>
@@ -709,7 +709,7 @@
     </message>
     <message>
         <source>Cannot refresh audit log because not connected to the service.</source>
-        <translation>Impossible d’actualiser le journal d’activité : aucune connexion au service.</translation>
+        <translation>Impossible d’actualiser le journal d’activité&#xa0;: aucune connexion au service.</translation>
     </message>
     <message>
         <source>No Selection</source>
@@ -729,7 +729,7 @@
     </message>
     <message>
         <source>Are you sure you want to delete task &apos;%1&apos;?</source>
-        <translation>Voulez-vous vraiment supprimer la tâche « %1 » ?</translation>
+        <translation>Voulez-vous vraiment supprimer la tâche «&#xa0;%1&#xa0;»&#xa0;?</translation>
     </message>
     <message>
         <source>Delete Error</source>
@@ -769,7 +769,7 @@
     </message>
     <message>
         <source>The &apos;Ungrouped&apos; group cannot be edited.</source>
-        <translation>Le groupe « Sans groupe » ne peut pas être modifié.</translation>
+        <translation>Le groupe «&#xa0;Sans groupe&#xa0;» ne peut pas être modifié.</translation>
     </message>
     <message>
         <source>Select Type</source>
@@ -789,13 +789,13 @@
     </message>
     <message>
         <source>The &apos;Ungrouped&apos; group cannot be deleted.</source>
-        <translation>Le groupe « Sans groupe » ne peut pas être supprimé.</translation>
+        <translation>Le groupe «&#xa0;Sans groupe&#xa0;» ne peut pas être supprimé.</translation>
     </message>
     <message>
         <source>Are you sure you want to delete group &apos;%1&apos;?
 Tasks in this group will be moved to &apos;Ungrouped&apos;.</source>
-        <translation>Voulez-vous vraiment supprimer le groupe « %1 » ?
-Les tâches de ce groupe seront déplacées vers « Sans groupe ».</translation>
+        <translation>Voulez-vous vraiment supprimer le groupe «&#xa0;%1&#xa0;»&#xa0;?
+Les tâches de ce groupe seront déplacées vers «&#xa0;Sans groupe&#xa0;».</translation>
     </message>
     <message>
         <source>Failed to delete group.</source>
@@ -819,7 +819,7 @@ Les tâches de ce groupe seront déplacées vers « Sans groupe ».</translati
     </message>
     <message>
         <source>Are you sure you want to delete all tasks in this group?</source>
-        <translation>Voulez-vous vraiment supprimer toutes les tâches de ce groupe ?</translation>
+        <translation>Voulez-vous vraiment supprimer toutes les tâches de ce groupe&#xa0;?</translation>
     </message>
     <message>
         <source>Failed to delete all tasks in group.</source>
@@ -839,7 +839,7 @@ Les tâches de ce groupe seront déplacées vers « Sans groupe ».</translati
     </message>
     <message>
         <source>connected to deamon failed! (attempt %1 of %2) reason = </source>
-        <translation>Échec de la connexion au service de planification ! (tentative %1 sur %2) motif = </translation>
+        <translation>Échec de la connexion au service de planification&#xa0;! (tentative %1 sur %2) motif = </translation>
     </message>
     <message>
         <source>[WARN] Initial connection failed, attempting to start service...</source>
@@ -887,7 +887,7 @@ Vérifiez que le service fonctionne correctement, puis réessayez.</translation>
 Would you like to create one now?</source>
         <translation>Aucune tâche planifiée n’a été trouvée.
 
-Voulez-vous en créer une maintenant ?</translation>
+Voulez-vous en créer une maintenant&#xa0;?</translation>
     </message>
     <message>
         <source>[WARN] Connection lost, attempting to reconnect...</source>
@@ -941,11 +941,11 @@ L’application va maintenant se fermer.</translation>
     </message>
     <message>
         <source>Failed to move task to group &apos;%1&apos;.</source>
-        <translation>Impossible de déplacer la tâche vers le groupe « %1 ».</translation>
+        <translation>Impossible de déplacer la tâche vers le groupe «&#xa0;%1&#xa0;».</translation>
     </message>
     <message>
         <source>Failed to move %1 tasks to group &apos;%2&apos;.</source>
-        <translation>Impossible de déplacer %1 tâches vers le groupe « %2 ».</translation>
+        <translation>Impossible de déplacer %1 tâches vers le groupe «&#xa0;%2&#xa0;».</translation>
     </message>
     <message>
         <source>Failed to move task to group.</source>
@@ -957,7 +957,7 @@ L’application va maintenant se fermer.</translation>
     </message>
     <message>
         <source>Tasks: %1</source>
-        <translation>Tâches : %1</translation>
+        <translation>Tâches&#xa0;: %1</translation>
     </message>
     <message>
         <source> (in %1)</source>
@@ -1088,15 +1088,15 @@ L’application va maintenant se fermer.</translation>
 
 Example: [YYYY-MM-DD][hh-mm-ss]_[TaskName]
 Result: 2024-03-15_14-30-45_MyTask.mp4</source>
-        <translation>Variables de format disponibles :
+        <translation>Variables de format disponibles&#xa0;:
 
-[YYYY-MM-DD] - Date (p. ex. 2024-03-15)
-[hh-mm-ss] - Heure (p. ex. 14-30-45)
+[YYYY-MM-DD] - Date (p.&#xa0;ex. 2024-03-15)
+[hh-mm-ss] - Heure (p.&#xa0;ex. 14-30-45)
 [TaskName] - Nom de la tâche
 [Counter] - Compteur incrémenté automatiquement
 
-Exemple : [YYYY-MM-DD][hh-mm-ss]_[TaskName]
-Résultat : 2024-03-15_14-30-45_MaTâche.mp4</translation>
+Exemple&#xa0;: [YYYY-MM-DD][hh-mm-ss]_[TaskName]
+Résultat&#xa0;: 2024-03-15_14-30-45_MaTâche.mp4</translation>
     </message>
     <message>
         <source>Ungrouped</source>
@@ -1104,15 +1104,15 @@ Résultat : 2024-03-15_14-30-45_MaTâche.mp4</translation>
     </message>
     <message>
         <source>Critical Error!</source>
-        <translation>Erreur critique !</translation>
+        <translation>Erreur critique&#xa0;!</translation>
     </message>
     <message>
         <source>Task type mismatch!</source>
-        <translation>Le type de tâche ne correspond pas !</translation>
+        <translation>Le type de tâche ne correspond pas&#xa0;!</translation>
     </message>
     <message>
         <source>Task type not accepted!</source>
-        <translation>Type de tâche non accepté !</translation>
+        <translation>Type de tâche non accepté&#xa0;!</translation>
     </message>
     <message>
         <source>📋 Basic Info</source>
@@ -1172,7 +1172,7 @@ Résultat : 2024-03-15_14-30-45_MaTâche.mp4</translation>
     </message>
     <message>
         <source>Failed to save task. reason : </source>
-        <translation>Impossible d’enregistrer la tâche. Motif : </translation>
+        <translation>Impossible d’enregistrer la tâche. Motif&#xa0;: </translation>
     </message>
     <message>
         <source>Task name is required.</source>
@@ -1196,19 +1196,19 @@ Résultat : 2024-03-15_14-30-45_MaTâche.mp4</translation>
     </message>
     <message>
         <source>At least one weekday must be selected for EveryWeek mode.</source>
-        <translation>Sélectionnez au moins un jour de la semaine pour le mode « Chaque semaine ».</translation>
+        <translation>Sélectionnez au moins un jour de la semaine pour le mode «&#xa0;Chaque semaine&#xa0;».</translation>
     </message>
     <message>
         <source>Monitor program is required for monitorApp mode.</source>
-        <translation>Le programme à surveiller est obligatoire pour le mode « Surveiller une appli ».</translation>
+        <translation>Le programme à surveiller est obligatoire pour le mode «&#xa0;Surveiller une appli&#xa0;».</translation>
     </message>
     <message>
         <source>Monitor folder path is required for monitorFolder mode.</source>
-        <translation>Le chemin du dossier à surveiller est obligatoire pour le mode « Surveiller un dossier ».</translation>
+        <translation>Le chemin du dossier à surveiller est obligatoire pour le mode «&#xa0;Surveiller un dossier&#xa0;».</translation>
     </message>
     <message>
         <source>File extensions are required for monitorFolder mode.</source>
-        <translation>Les extensions de fichier sont obligatoires pour le mode « Surveiller un dossier ».</translation>
+        <translation>Les extensions de fichier sont obligatoires pour le mode «&#xa0;Surveiller un dossier&#xa0;».</translation>
     </message>
     <message>
         <source>Stop time must be in the future.</source>
