@@ -16,6 +16,7 @@ target_compile_definitions(orvel_build_options INTERFACE
   QT_NO_FOREACH
   QT_NO_NARROWING_CONVERSIONS_IN_CONNECT
   QT_NO_CONTEXTLESS_CONNECT
+  # What the oldest Qt that must work calls deprecated is not there at all.
   QT_DISABLE_DEPRECATED_BEFORE=0x060400
   QT_DISABLE_DEPRECATED_UP_TO=0x060400)
 
