@@ -2,6 +2,7 @@
 #include "testmain.h"
 
 #include <QCoreApplication>
+#include <QTimeZone>
 
 using namespace Scheduler;
 using namespace Qt::StringLiterals;
@@ -117,7 +118,7 @@ void TestTaskTexts::countsDownAcrossADaylightSavingChange_data()
     QTest::newRow("a day of 25 hours") << QDateTime(autumn, QTime(0, 0)) << QDateTime(autumn.addDays(1), QTime(0, 0))
                                        << u"1d 1h left"_s;
     QTest::newRow("past, though the clock shows less")
-        << QDateTime(autumn, QTime(1, 15), Qt::UTC).toLocalTime()
+        << QDateTime(autumn, QTime(1, 15), QTimeZone::utc()).toLocalTime()
         << QDateTime::fromString(u"2026-10-25T02:45:00+02:00"_s, Qt::ISODate) << u"Overdue"_s;
 }
 
@@ -131,7 +132,7 @@ void TestTaskTexts::countsDownAcrossADaylightSavingChange()
 
 void TestTaskTexts::noCountdownIsNegativeWhateverTheClockDoes()
 {
-    const QDateTime when(QDate(2026, 3, 29), QTime(1, 0), Qt::UTC);
+    const QDateTime when(QDate(2026, 3, 29), QTime(1, 0), QTimeZone::utc());
     for (const qint64 step : {qint64{1}, qint64{59}, qint64{3600}, qint64{8} * 3600, qint64{86400} * 365}) {
         for (int i = -100; i <= 100; ++i) {
             const QString text = formatNextRun(when, when.addSecs(i * step));

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QDateTime>
+#include <QTimeZone>
 
 #include <atomic>
 
@@ -29,7 +30,7 @@ inline void setClock(const QDateTime &time)
 /// Whether this process can have a time of its own, which Qt's build and the C library decide.
 inline bool clockCanBeMoved()
 {
-    const QDateTime time = QDateTime::fromSecsSinceEpoch(1'000'000'000, Qt::UTC);
+    const QDateTime time = QDateTime::fromSecsSinceEpoch(1'000'000'000, QTimeZone::utc());
     setClock(time);
     const qint64 difference = time.secsTo(QDateTime::currentDateTimeUtc());
     clockOffset = 0;
