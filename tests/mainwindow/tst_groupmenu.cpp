@@ -14,10 +14,12 @@ namespace {
 
 const QString question = u"Are you sure you want to delete all tasks in this group?"_s;
 
-/// As the window system reports it, so that Qt makes the request for the menu by itself.
+/// As the window system reports it, so that Qt makes the request for the menu by itself. The pointer moves there first,
+/// as any pointer does: in the window of a later test newer Qt does not find the tree for the request otherwise.
 void rightClick(const CommandFixture &fixture, const QPoint &inViewport)
 {
     const QPoint position = fixture.tree()->viewport()->mapTo(fixture.window.get(), inViewport);
+    QTest::mouseMove(fixture.window->windowHandle(), position - QPoint(1, 1));
     QTest::mouseClick(fixture.window->windowHandle(), Qt::RightButton, {}, position);
 }
 
@@ -115,9 +117,13 @@ void TestGroupMenu::emptySpaceAndUngroupedHaveNoMenu()
     else
         rightClick(*m_fixture, m_fixture->tree()->viewport()->rect().bottomRight() - QPoint(5, 5));
     QCOMPARE(user.items(), QStringList());
-    // The press itself may change the selection, which the table follows.
+    // The press itself may change the selection, which the table follows. Newer Qt keeps it in empty space.
     QCOMPARE(m_fixture->tree()->topLevelItem(1)->isSelected(), onItem);
-    QCOMPARE(m_fixture->daemon.commands(), QStringList(onItem ? u"task.listByGroupAndType"_s : u"task.listByType"_s));
+    if (m_fixture->tree()->topLevelItem(0)->isSelected())
+        QCOMPARE(m_fixture->daemon.commands(), QStringList());
+    else
+        QCOMPARE(m_fixture->daemon.commands(),
+                 QStringList(onItem ? u"task.listByGroupAndType"_s : u"task.listByType"_s));
 }
 
 void TestGroupMenu::aChoiceIsCarriedOutAndFollowedByTheRefreshes_data()
