@@ -44,14 +44,14 @@ QJsonObject withChanges(QJsonObject document, const QJsonObject &changes)
     return document;
 }
 
-/// A program that does nothing, since a daemon may start it.
+/// A program that does nothing, since a daemon may start it: one that there is on the own system.
 QString harmlessProgram()
 {
-#ifdef Q_OS_WIN
-    return QStandardPaths::findExecutable(u"hostname"_s);
-#else
-    return QStandardPaths::findExecutable(u"true"_s);
-#endif
+    for (const auto &name : {u"true"_s, u"hostname"_s}) {
+        if (const QString path = QStandardPaths::findExecutable(name); !path.isEmpty())
+            return path;
+    }
+    return {};
 }
 
 } // namespace

@@ -1,8 +1,5 @@
 #include "mcsterminationwatcher.h"
 
-#include <QtGlobal>
-
-#ifdef Q_OS_UNIX
 #include <QSocketNotifier>
 
 #include <array>
@@ -10,11 +7,8 @@
 #include <csignal>
 #include <fcntl.h>
 #include <unistd.h>
-#endif
 
 namespace Scheduler::DevDaemon {
-
-#ifdef Q_OS_UNIX
 
 namespace {
 
@@ -73,16 +67,5 @@ void MCsTerminationWatcher::watch()
     for (const int number : watchedSignals)
         ::sigaction(number, &action, nullptr);
 }
-
-#else
-
-MCsTerminationWatcher::MCsTerminationWatcher(QObject *parent)
-    : QObject(parent)
-{
-}
-
-MCsTerminationWatcher::~MCsTerminationWatcher() = default;
-
-#endif
 
 } // namespace Scheduler::DevDaemon
