@@ -1,11 +1,14 @@
 """The bundle of images holds what the sources use, and nothing else, and every image has its SVG source.
 
+The icon of the Windows program is made of the icons of the desktop.
+
 With --rendering it is the pixels that are compared: each PNG against a fresh rendering of its source. Exit status 77
 says that this could not be done, since the renderer is not installed.
 """
 
 import re
 import shutil
+import struct
 import subprocess
 import sys
 import tempfile
@@ -16,6 +19,7 @@ from pngpixels import read_png
 
 IMAGES = Path("src/app/images")
 ICONS = Path("packaging/icons")
+WINDOWS_ICON = Path("packaging/windows/orvel-scheduler-manager.ico")
 BUNDLE = IMAGES / "images.qrc"
 USE = re.compile(r":/images/[\w./-]+\.\w+")
 USING_SUFFIXES = {".cpp", ".h", ".ui", ".qss"}
@@ -66,7 +70,24 @@ def check(root):
     findings += [f"{IMAGES}/{name}.png is not in {BUNDLE}" for name in sorted(pngs) if f"{name}.png" not in in_bundle]
     findings += [f"{IMAGES}/{name}.png has no source in svg/" for name in sorted(pngs - svgs)]
     findings += [f"{IMAGES}/svg/{name}.svg has not been rendered" for name in sorted(svgs - pngs)]
-    return findings
+    return findings + check_windows_icon(root)
+
+
+def images_of(icon):
+    """The images of an icon file, each as bytes."""
+    count = struct.unpack_from("<H", icon, 4)[0]
+    places = [struct.unpack_from("<II", icon, 6 + 16 * index + 8) for index in range(count)]
+    return [icon[offset : offset + size] for size, offset in places]
+
+
+def check_windows_icon(root):
+    """Findings about an icon of the Windows program that is not made of the desktop's."""
+    if not (root / WINDOWS_ICON).is_file():
+        return [f"{WINDOWS_ICON} is missing"]
+    icons = [path.read_bytes() for path in (root / ICONS).rglob("*.png")]
+    if all(image in icons for image in images_of((root / WINDOWS_ICON).read_bytes())):
+        return []
+    return [f"{WINDOWS_ICON} is not made of the PNGs in {ICONS}; run tools/render-images"]
 
 
 def differs(first, second):

@@ -13,7 +13,7 @@ import sys
 import tempfile
 from pathlib import Path
 
-FOLDERS = [".", ".ci", "tools"]
+FOLDERS = [".", ".ci", "tools", "packaging/windows"]
 # What finds the script's own folder and prints.
 PROGRAMS = ["bash", "dirname", "env", "sed"]
 # These hand their arguments on to a program, which judges them.
@@ -57,7 +57,7 @@ class Playground:
             for path in (root / source).glob("*"):
                 if path.is_file():
                     target = self.root / source / path.name
-                    target.parent.mkdir(exist_ok=True)
+                    target.parent.mkdir(parents=True, exist_ok=True)
                     shutil.copy(path, target)
         for program in PROGRAMS:
             (self.programs / program).symlink_to(shutil.which(program))

@@ -58,11 +58,18 @@ class ImagesTest(CheckTest):
         self.write("src/app/images/new.png", "")
         self.write("src/app/images/svg/new.svg", "")
         self.write("src/mainwindow/a.ui", "<normaloff>:/images/new.png</normaloff>")
+        self.write("packaging/icons/hicolor/16x16/apps/app.png", "image")
         self.bundle("new.png")
+        self.windows_icon(b"image")
 
     def bundle(self, *files):
         entries = "".join(f"<file>{file}</file>" for file in files)
         self.write("src/app/images/images.qrc", f'<RCC><qresource prefix="/images">{entries}</qresource></RCC>')
+
+    def windows_icon(self, image):
+        directory = struct.pack("<HHH", 0, 1, 1) + struct.pack("<BBBBHHII", 16, 16, 0, 0, 1, 32, len(image), 22)
+        self.write("packaging/windows/orvel-scheduler-manager.ico", "")
+        (self.root / "packaging/windows/orvel-scheduler-manager.ico").write_bytes(directory + image)
 
     def findings(self):
         return check_images.check(self.root)
@@ -86,6 +93,14 @@ class ImagesTest(CheckTest):
     def test_png_and_source_without_each_other_are_found(self):
         (self.root / "src/app/images/svg/new.svg").rename(self.root / "src/app/images/svg/old.svg")
         self.assert_findings(self.findings(), "new.png has no source", "old.svg has not been rendered")
+
+    def test_an_icon_of_the_windows_program_with_another_image_is_found(self):
+        self.windows_icon(b"older")
+        self.assert_findings(self.findings(), "is not made of the PNGs")
+
+    def test_a_missing_icon_of_the_windows_program_is_found(self):
+        (self.root / "packaging/windows/orvel-scheduler-manager.ico").unlink()
+        self.assert_findings(self.findings(), "orvel-scheduler-manager.ico is missing")
 
     def difference(self, first, second):
         (self.root / "first.png").write_bytes(first)
@@ -118,7 +133,7 @@ class ImagesTest(CheckTest):
         self.assert_findings(check_images.check_rendering(self.root), "new.png")
 
     def test_icons_are_compared_with_the_committed_files(self):
-        icon = "hicolor/16x16/apps/app.png"
+        icon = "hicolor/32x32/apps/app.png"
         self.write(
             "tools/render-images", f'#!/bin/sh\ninstall -D "{self.root}/rendered" "$1/icons/{icon}"\n'
         )

@@ -37,6 +37,9 @@ class ScriptsTest(CheckTest):
         self.write("tools/setup.sh", "# shellcheck shell=bash\nexit 1\n")
         self.assert_findings(self.findings(GOOD))
 
+    def test_a_command_of_a_folder_further_down_is_found(self):
+        self.assert_findings(self.findings(GOOD, "packaging/windows/make"), *["does not tell its usage"] * 3)
+
     def test_an_option_that_is_not_known_is_found(self):
         for option in ("-h", "--help"):
             with self.subTest(option):
