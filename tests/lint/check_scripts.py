@@ -17,7 +17,7 @@ FOLDERS = [".", ".ci", "tools", "packaging/windows"]
 # What finds the script's own folder and prints.
 PROGRAMS = ["bash", "dirname", "env", "sed"]
 # These hand their arguments on to a program, which judges them.
-HANDS_ON = {"run", "test"}
+HANDS_ON = {"run", "test", "packaging/windows/test-under-wine"}
 NO_SUCH_OPTION = "--no-such-option"
 PATIENCE_SECONDS = 10
 
