@@ -8,7 +8,7 @@ windows_build_packages=(g++-mingw-w64-x86-64-posix binutils-mingw-w64-x86-64)
 # What fetches and unpacks Debian's source of Qt.
 windows_source_packages=(dpkg-dev xz-utils)
 # What runs Windows programs, and what shows and handles their windows.
-windows_run_packages=(wine64 xvfb xauth xdotool imagemagick)
+windows_run_packages=(wine64 fonts-wine fonts-symbola xvfb xdotool imagemagick)
 
 # Where what takes long to make is kept.
 windows_cache="${ORVEL_WINDOWS_CACHE:-${XDG_CACHE_HOME:-$HOME/.cache}/orvel-scheduler-manager}"
@@ -37,8 +37,7 @@ use_windows_qt()
     export ORVEL_WINDOWS_QT
 }
 
-# add_libraries <build folder>: puts the DLLs beside the programs, which is where Windows looks for them, and Qt's plugins
-# where Qt does.
+# add_libraries <build folder>: puts the DLLs and Qt's plugins beside the programs, which is where Windows and Qt look.
 add_libraries()
 {
     local build="$1" folder library
@@ -48,8 +47,8 @@ add_libraries()
             /usr/x86_64-w64-mingw32/lib/libwinpthread-1.dll; do
             ln -sf -- "$library" "$folder/"
         done
+        ln -sfn -- "$ORVEL_WINDOWS_QT"/plugins/{platforms,styles} "$folder/"
     done
-    ln -sfn -- "$ORVEL_WINDOWS_QT/plugins" "$build/plugins"
 }
 
 # Wine's own programs; Debian's package wine64 puts them on no search path.
@@ -64,6 +63,15 @@ use_wine()
     # Where Qt finds them when it shows no window.
     QT_QPA_FONTDIR="$(windows_path /usr/share/fonts/truetype/dejavu)"
     export FONTCONFIG_FILE QT_QPA_FONTDIR
+}
+
+# hand_on_qt_settings: wine keeps Qt's variables to itself, and hands on those of these names without the first four letters.
+hand_on_qt_settings()
+{
+    local name
+    for name in "${!QT_@}"; do
+        export "WINE$name=${!name}"
+    done
 }
 
 # windows_path <absolute path>: the path by which a program under wine knows it.
@@ -84,6 +92,14 @@ wine_folder()
     printf '%s\n' "${ORVEL_WINE:-$windows_cache/wine}"
 }
 
+# Fonts that Windows has and Debian cannot have, by what looks most like them.
+replace_fonts()
+{
+    local key='HKCU\Software\Wine\Fonts\Replacements'
+    wine64 reg add "$key" /f /v 'Segoe UI' /d 'Noto Sans' &&
+        wine64 reg add "$key" /f /v 'Consolas' /d 'DejaVu Sans Mono'
+}
+
 # make_prefix <folder>: a Windows of its own there, once. Not the user's: its home folder is inside, and the links to the
 # user's documents that wine would make lead there.
 make_prefix()
@@ -99,7 +115,7 @@ make_prefix()
             exec {lock}>&-
             unset DISPLAY WAYLAND_DISPLAY
             export HOME="$prefix.unfinished/home" WINEPREFIX="$prefix.unfinished"
-            wine64 wineboot --init && wine64 winecfg -v win10 && wineserver -w
+            wine64 wineboot --init && wine64 winecfg -v win10 && replace_fonts && wineserver -w
         ) >"$prefix.log" 2>&1 </dev/null || die "wine could not be set up; see $prefix.log"
         mv -- "$prefix.unfinished" "$prefix"
     fi
