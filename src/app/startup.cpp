@@ -135,11 +135,19 @@ std::optional<StartValues> readCommandLine(const QStringList &commandLine)
                        *parameters};
 }
 
+// Qt's own rule posts an event, which an event loop that starts before its delivery takes away; each wait for an answer
+// of the daemon is one. Without its window the program would then go on, and keep its task type taken. A call is kept.
+void quitWithLastWindow()
+{
+    QObject::connect(qApp, &QGuiApplication::lastWindowClosed, qApp, &QCoreApplication::quit, Qt::QueuedConnection);
+}
+
 int runManager(int argc, char **argv)
 {
     registerResources();
     const QApplication application(argc, argv);
     identifyApplication();
+    quitWithLastWindow();
     startLogging();
     const std::optional<StartValues> values = readCommandLine(QCoreApplication::arguments());
     if (!values)

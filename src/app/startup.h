@@ -19,6 +19,9 @@ struct StartValues {
 /// Name, version and icon of the application object.
 void identifyApplication();
 
+/// Lets the application end with its last window, also where that is closed between two waits for the daemon.
+void quitWithLastWindow();
+
 /// Directs the log to its file. Debug entries are kept when a file "debug.txt" stands beside the executable.
 void startLogging();
 

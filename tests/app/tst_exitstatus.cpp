@@ -4,6 +4,8 @@
 #include "testmain.h"
 
 #include <QApplication>
+#include <QEventLoop>
+#include <QTimer>
 
 #include <memory>
 #include <vector>
@@ -52,6 +54,7 @@ private slots:
     void aFailureOfTheStartIsOne();
     void aTakenTypeEndsWithABoxAndZero();
     void closingTheWindowIsZero();
+    void closingTheWindowBetweenTwoWaitsIsZero();
 };
 
 void TestExitStatus::aFailureOfTheStartIsOne_data()
@@ -110,6 +113,27 @@ void TestExitStatus::closingTheWindowIsZero()
                 QApplication::closeAllWindows();
         });
         closer->start(10);
+    };
+    QCOMPARE(run(arguments(u"task_type.test"_s)), 0);
+}
+
+// An answer arrives together with the closing, and the next wait begins at once.
+void TestExitStatus::closingTheWindowBetweenTwoWaitsIsZero()
+{
+    std::unique_ptr<ScriptedDaemon> daemon;
+    auto guard = std::make_unique<QTimer>();
+    afterStart = [&] {
+        daemon = std::make_unique<ScriptedDaemon>();
+        daemon->deliverWith(u"tasktype.list"_s, [&](const QJsonObject &answer) {
+            QApplication::closeAllWindows();
+            QEventLoop wait;
+            QTimer::singleShot(0, &wait, &QEventLoop::quit);
+            wait.exec();
+            daemon->sendResponse(answer);
+        });
+        QVERIFY(daemon->listen());
+        QObject::connect(guard.get(), &QTimer::timeout, guard.get(), [] { QCoreApplication::exit(99); });
+        guard->start(10000);
     };
     QCOMPARE(run(arguments(u"task_type.test"_s)), 0);
 }
