@@ -3,6 +3,7 @@
 #include <QGenericPlugin>
 #include <QGuiApplication>
 #include <QSocketNotifier>
+#include <QTimer>
 #include <QWindow>
 
 #include <cstdio>
@@ -53,7 +54,8 @@ private:
         if (front == nullptr)
             return;
         askToClose(front);
-        QMetaObject::invokeMethod(qGuiApp, &RemoteControl::closeAll, Qt::QueuedConnection);
+        // Not as a posted event: those that post the next one keep timers and sockets from their turn.
+        QTimer::singleShot(1, qGuiApp, &RemoteControl::closeAll);
     }
 
     QSocketNotifier m_input;
