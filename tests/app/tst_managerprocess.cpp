@@ -1,3 +1,4 @@
+#include "platform.h"
 #include "testmain.h"
 #include "wireprotocol.h"
 
@@ -5,7 +6,6 @@
 #include <QFile>
 #include <QLocalSocket>
 #include <QProcess>
-#include <QStandardPaths>
 
 #include <memory>
 
@@ -17,17 +17,20 @@ using namespace Qt::StringLiterals;
 namespace {
 
 /// The log file of the manager processes, which share this test's directories.
+QString logPath()
+{
+    return TestSupport::applicationsDirectory() + u"/Orvel Task Scheduler/gui_logs.log"_s;
+}
+
 QString logText()
 {
-    QFile file(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
-               u"/Orvel Task Scheduler/gui_logs.log"_s);
+    QFile file(logPath());
     return file.open(QIODevice::ReadOnly) ? QString::fromUtf8(file.readAll()) : QString();
 }
 
 void removeLog()
 {
-    QFile::remove(QStandardPaths::writableLocation(QStandardPaths::GenericDataLocation) +
-                  u"/Orvel Task Scheduler/gui_logs.log"_s);
+    QFile::remove(logPath());
 }
 
 /// Ends its program when it goes.

@@ -2,6 +2,7 @@
 
 #include "mcsipcconnection.h"
 #include "mcsschedulerclient.h"
+#include "platform.h"
 #include "scripteddaemon.h"
 
 #include <QPointer>
@@ -139,8 +140,8 @@ private:
 /// What a client tells when its daemon goes.
 inline QStringList lossSignals()
 {
-    return {QStringLiteral("error: Socket error: QLocalSocket: Remote closed"), QStringLiteral("disconnected"),
-            QStringLiteral("connectionLost")};
+    return toldOfLoss(QStringLiteral("error: ")) +
+           QStringList{QStringLiteral("disconnected"), QStringLiteral("connectionLost")};
 }
 
 } // namespace TestSupport

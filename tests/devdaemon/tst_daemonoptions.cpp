@@ -1,4 +1,5 @@
 #include "daemonoptions.h"
+#include "platform.h"
 #include "testmain.h"
 
 using namespace Qt::StringLiterals;
@@ -33,8 +34,7 @@ void TestDaemonOptions::withoutArgumentsTheDefaultsHold()
 {
     const CommandLine line = parse({});
     QVERIFY(line.options.has_value());
-    const QString dataHome = qEnvironmentVariable("XDG_DATA_HOME");
-    QCOMPARE(line.options->statePath, dataHome + u"/orvel-dev-daemon/state.json"_s);
+    QCOMPARE(line.options->statePath, TestSupport::applicationsDirectory() + u"/orvel-dev-daemon/state.json"_s);
     QVERIFY(!line.options->empty);
     QVERIFY(!line.options->verbose);
     QCOMPARE(line.options->taskCount, 0);

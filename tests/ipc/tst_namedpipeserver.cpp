@@ -1,5 +1,6 @@
 #include "mcsipcserverconnection.h"
 #include "mcsnamedpipeserver.h"
+#include "platform.h"
 #include "rawclient.h"
 #include "testmain.h"
 #include "wireprotocol.h"
@@ -12,10 +13,6 @@
 #include <QTest>
 
 #include <memory>
-
-#ifdef Q_OS_UNIX
-#include <unistd.h>
-#endif
 
 using namespace Qt::StringLiterals;
 using namespace Scheduler;
@@ -46,7 +43,7 @@ private slots:
 private:
     QString path(const QString &name) const
     {
-        return QDir(m_directory->path()).absoluteFilePath(name);
+        return endpointIn(m_directory->path(), name);
     }
 
     std::unique_ptr<QTemporaryDir> m_directory;
@@ -157,7 +154,8 @@ void TestNamedPipeServer::clientsFromBeforeTheEventLoopAreAllAccepted()
 
 void TestNamedPipeServer::onlyTheOwnUserMayConnect()
 {
-#ifdef Q_OS_UNIX
+    if (!endpointsAreFiles)
+        QSKIP(endpointsAreNoFiles);
     MCsNamedPipeServer server;
     QVERIFY(server.listen(path(u"s"_s)));
     constexpr QFile::Permissions others =
@@ -165,10 +163,7 @@ void TestNamedPipeServer::onlyTheOwnUserMayConnect()
     const QFile::Permissions permissions = QFile::permissions(path(u"s"_s));
     QCOMPARE(permissions & others, QFile::Permissions());
     QVERIFY(permissions & QFile::WriteOwner);
-    QCOMPARE(QFileInfo(path(u"s"_s)).ownerId(), geteuid());
-#else
-    QSKIP("no files here");
-#endif
+    QCOMPARE(QFileInfo(path(u"s"_s)).ownerId(), ownUserId());
 }
 
 void TestNamedPipeServer::nothingIsLeftBehind()
@@ -183,7 +178,8 @@ void TestNamedPipeServer::nothingIsLeftBehind()
 
 void TestNamedPipeServer::reasonOfFailure_data()
 {
-#ifdef Q_OS_UNIX
+    if (!endpointsAreFiles)
+        QSKIP(endpointsAreNoFiles);
     QTest::addColumn<QString>("name");
     QTest::addColumn<QString>("reason");
     const QString unwritable = u"Cannot listen on %1: its directory cannot be written"_s;
@@ -191,16 +187,12 @@ void TestNamedPipeServer::reasonOfFailure_data()
     QTest::newRow("missing directory") << u"missing/s"_s << unwritable;
     QTest::newRow("file instead of a directory") << u"file/s"_s << unwritable;
     QTest::newRow("directory without the right to write") << u"locked/s"_s << unwritable;
-#ifdef Q_OS_LINUX
-    QTest::newRow("directory that nobody may write to") << u"/proc/s"_s << unwritable;
-#endif
+    if (hasKernelFiles)
+        QTest::newRow("directory that nobody may write to") << u"/proc/s"_s << unwritable;
     QTest::newRow("directory of that name")
         << u"directory"_s << u"Cannot listen on %1: something else bears that name"_s;
     QTest::newRow("file of that name") << u"file"_s << u"Cannot listen on %1: something else bears that name"_s;
     QTest::newRow("too long") << QString(120, u'x') << u"Cannot listen on %1: the path is too long for a socket"_s;
-#else
-    QSKIP("no files here");
-#endif
 }
 
 void TestNamedPipeServer::reasonOfFailure()
@@ -228,7 +220,8 @@ void TestNamedPipeServer::reasonOfFailure()
 
 void TestNamedPipeServer::missingRuntimeDirectoryIsAReason()
 {
-#ifdef Q_OS_UNIX
+    if (!endpointsAreFiles)
+        QSKIP(endpointsAreNoFiles);
     // Qt offers a directory below the one for temporary files instead; here a file is in its way.
     QFile file(path(u"runtime-"_s + QFileInfo(m_directory->path()).owner()));
     QVERIFY(file.open(QIODevice::WriteOnly));
@@ -245,13 +238,12 @@ void TestNamedPipeServer::missingRuntimeDirectoryIsAReason()
         qputenv("TMPDIR", temporaryDirectory);
     QVERIFY(!listening);
     QCOMPARE(server.errorString(), u"There is no runtime directory of the user's own for the endpoint"_s);
-#else
-    QSKIP("no files here");
-#endif
 }
 
 void TestNamedPipeServer::successClearsTheReason()
 {
+    if (!endpointsAreFiles)
+        QSKIP(endpointsAreNoFiles);
     MCsNamedPipeServer server;
     QVERIFY(!server.listen(path(u"missing/s"_s)));
     QVERIFY(!server.errorString().isEmpty());

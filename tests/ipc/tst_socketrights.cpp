@@ -1,7 +1,7 @@
 #include "logcapture.h"
 #include "mcsipcconnection.h"
 #include "mcsnamedpipeserver.h"
-#include "otheruser.h"
+#include "platform.h"
 #include "rawsocket.h"
 #include "socketpeer.h"
 #include "testmain.h"

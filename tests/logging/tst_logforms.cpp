@@ -1,5 +1,6 @@
 #include "logreading.h"
 #include "mcslogger.h"
+#include "platform.h"
 #include "testmain.h"
 
 #include <QDateTime>
@@ -89,6 +90,8 @@ void LogFormsTest::fileLineHoldsTimeAndMessageOnly()
 
 void LogFormsTest::timeIsLocalAndWithoutZone()
 {
+    if (!environmentTellsZone)
+        QSKIP("the zone is the system's alone here");
     const bool zoneWasSet = qEnvironmentVariableIsSet("TZ");
     const QByteArray zone = qgetenv("TZ");
     const auto restore = qScopeGuard([&] { zoneWasSet ? qputenv("TZ", zone) : qunsetenv("TZ"); });

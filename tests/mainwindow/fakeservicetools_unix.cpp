@@ -6,6 +6,13 @@ using namespace Qt::StringLiterals;
 
 namespace TestSupport {
 
+const bool FakeServiceTools::canBeMissing = true;
+const QByteArray FakeServiceTools::running = "LoadState=loaded\nActiveState=active";
+const QByteArray FakeServiceTools::stopped = "LoadState=loaded\nActiveState=inactive";
+const QByteArray FakeServiceTools::missing = "LoadState=not-found\nActiveState=inactive";
+const QByteArray FakeServiceTools::starting = "LoadState=loaded\nActiveState=activating";
+const QByteArray FakeServiceTools::failed = "LoadState=loaded\nActiveState=failed";
+
 FakeServiceTools::FakeServiceTools()
     : m_previousPath(qgetenv("PATH"))
 {

@@ -29,8 +29,8 @@ void TestServiceControl::readsTheStateFromTheToolsOutput_data()
     QTest::newRow("running") << FakeServiceTools::running << true << true;
     QTest::newRow("installed, stopped") << FakeServiceTools::stopped << false << true;
     QTest::newRow("not installed") << FakeServiceTools::missing << false << false;
-    QTest::newRow("starting") << QByteArray("LoadState=loaded\nActiveState=activating") << false << true;
-    QTest::newRow("failed") << QByteArray("LoadState=loaded\nActiveState=failed") << false << true;
+    QTest::newRow("starting") << FakeServiceTools::starting << false << true;
+    QTest::newRow("failed") << FakeServiceTools::failed << false << true;
     QTest::newRow("silent") << QByteArray() << false << false;
     QTest::newRow("another text") << QByteArray("Failed to connect to bus") << false << false;
 }
@@ -65,6 +65,8 @@ void TestServiceControl::aStartSucceedsByItsExitCode()
 
 void TestServiceControl::aStartToolThatIsMissingCountsAsSuccess()
 {
+    if (!FakeServiceTools::canBeMissing)
+        QSKIP("the system has a tool of that name, which is always found");
     FakeServiceTools tools;
     tools.uninstall();
     QVERIFY(ServiceControl::startService());

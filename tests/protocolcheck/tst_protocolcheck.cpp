@@ -2,6 +2,7 @@
 #include "logcapture.h"
 #include "mcsdevdaemon.h"
 #include "mcsprotocolcheck.h"
+#include "platform.h"
 #include "testmain.h"
 #include "wireclient.h"
 #include "wireprotocol.h"
@@ -42,7 +43,7 @@ private:
 
     [[nodiscard]] QString proxyEndpoint() const
     {
-        return m_directory->filePath(u"proxy"_s);
+        return endpointIn(m_directory->path(), u"proxy"_s);
     }
     [[nodiscard]] Report check(CheckSettings settings) const;
     [[nodiscard]] Report checkThroughProxy(const Defect &defect) const;

@@ -1,4 +1,5 @@
 #include "mcslasttaskdefaults.h"
+#include "platform.h"
 #include "taskdialogfixture.h"
 #include "testmain.h"
 
@@ -12,10 +13,6 @@
 
 #include <functional>
 #include <memory>
-
-#ifdef Q_OS_UNIX
-#include "otheruser.h"
-#endif
 
 using namespace Qt::StringLiterals;
 using namespace Scheduler;
@@ -50,6 +47,7 @@ class TestSettingsSurroundings : public TaskDialogFixture {
     Q_OBJECT
 
 private slots:
+    void initTestCase();
     void init();
     void cleanup();
     void aTaskIsSavedWithAllThatWasTyped_data();
@@ -57,6 +55,12 @@ private slots:
     void whatIsNoSettingsFileCountsAsNone_data();
     void whatIsNoSettingsFileCountsAsNone();
 };
+
+void TestSettingsSurroundings::initTestCase()
+{
+    if (!settingsAreAFile)
+        QSKIP("the settings are no file here");
+}
 
 void TestSettingsSurroundings::init()
 {
@@ -109,10 +113,8 @@ void TestSettingsSurroundings::aTaskIsSavedWithAllThatWasTyped()
     QFETCH(const bool, remembered);
     QVERIFY(trouble());
     {
-#ifdef Q_OS_UNIX
         // Root may write everywhere.
         const std::unique_ptr<OtherUser> other = refused ? std::make_unique<OtherUser>() : nullptr;
-#endif
         openForCreate();
         enterEverything();
         saveSuccessfully();

@@ -1,3 +1,4 @@
+#include "platform.h"
 #include "taskdialogfixture.h"
 #include "testmain.h"
 
@@ -212,6 +213,8 @@ void TestTaskDialogBrowse::linkToAFolderStaysALink_data()
 
 void TestTaskDialogBrowse::linkToAFolderStaysALink()
 {
+    if (!linksAreFollowed)
+        QSKIP("links made here are files of their own");
     QFETCH(const Browse, expected);
     const QString link = m_files.filePath(u"link"_s);
     QVERIFY(QDir().mkpath(m_files.filePath(u"target"_s)));
