@@ -169,15 +169,11 @@ void Stage::strike(const QJsonObject &answer)
     awaitLoss();
 }
 
-// A slow machine would else end the wait of the command first, and show what follows before the loss, or without the
-// next connection. A registration goes without it: the next one follows the end of its own wait.
+// A slow machine would else end the wait of the command first, and show what follows before the loss.
 void Stage::awaitLoss() const
 {
-    const bool comesBack = m_fault.outcome == Outcome::LostAndBack && m_command != "client.register"_L1;
-    if (m_fault.outcome == Outcome::Lost || comesBack)
+    if (m_fault.outcome == Outcome::Lost)
         runUntil([this] { return !client->isConnected(); });
-    if (comesBack)
-        runUntil([this] { return window->connectionState() == ConnectionState::Connected && client->isConnected(); });
 }
 
 void Stage::hasten()
