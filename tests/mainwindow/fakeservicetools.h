@@ -43,7 +43,7 @@ private:
     QTemporaryDir m_directory;
     QByteArray m_previousPath; ///< the search path, or on Windows the current directory, of before
     QByteArray m_queryOutput = missing;
-    QByteArray m_startCommand = "exit 1"; ///< in the words of the tool
+    QByteArray m_startCommand; ///< in the words of the tool
 };
 
 } // namespace TestSupport

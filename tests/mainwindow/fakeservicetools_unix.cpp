@@ -15,6 +15,7 @@ const QByteArray FakeServiceTools::failed = "LoadState=loaded\nActiveState=faile
 
 FakeServiceTools::FakeServiceTools()
     : m_previousPath(qgetenv("PATH"))
+    , m_startCommand("exit 1")
 {
     qputenv("PATH", QFile::encodeName(m_directory.path()));
     write();

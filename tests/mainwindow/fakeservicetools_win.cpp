@@ -32,6 +32,7 @@ const QByteArray FakeServiceTools::failed = reportOf("1  STOPPED") + "        WI
 // The system looks for a program in the current directory before it looks among its own.
 FakeServiceTools::FakeServiceTools()
     : m_previousPath(QFile::encodeName(QDir::currentPath()))
+    , m_startCommand("1")
 {
     for (const QString &tool : {u"sc.exe"_s, u"net.exe"_s})
         QFile::copy(player, m_directory.filePath(tool));

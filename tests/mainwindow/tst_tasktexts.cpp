@@ -1,3 +1,4 @@
+#include "platform.h"
 #include "tasktexts.h"
 #include "testmain.h"
 
@@ -102,6 +103,8 @@ void TestTaskTexts::comparesTimesOfDifferentZones()
 
 void TestTaskTexts::countsDownAcrossADaylightSavingChange_data()
 {
+    if (!TestSupport::environmentTellsZone)
+        QSKIP("the zone is the system's alone here");
     QTest::addColumn<QDateTime>("now");
     QTest::addColumn<QDateTime>("when");
     QTest::addColumn<QString>("text");
