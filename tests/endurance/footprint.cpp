@@ -1,4 +1,5 @@
 #include "footprint.h"
+#include "heapinuse.h"
 
 #include <QApplication>
 #include <QDir>
@@ -7,34 +8,11 @@
 
 #include <algorithm>
 
-#if defined(__has_feature)
-#if __has_feature(address_sanitizer)
-#define ORVEL_ADDRESS_SANITIZER
-#endif
-#endif
-#if defined(__SANITIZE_ADDRESS__)
-#define ORVEL_ADDRESS_SANITIZER
-#endif
-#if defined(__GLIBC__) && !defined(ORVEL_ADDRESS_SANITIZER)
-#include <malloc.h>
-#define ORVEL_TELLS_HEAP
-#endif
-
 using namespace Qt::StringLiterals;
 
 namespace TestSupport {
 
 namespace {
-
-qint64 heapInUse()
-{
-#ifdef ORVEL_TELLS_HEAP
-    const auto info = mallinfo2();
-    return static_cast<qint64>(info.uordblks + info.hblkhd);
-#else
-    return -1;
-#endif
-}
 
 int entriesOf(const QString &directory)
 {
@@ -72,11 +50,7 @@ Footprint footprint(const QList<const QObject *> &roots)
 
 bool tellsHeap()
 {
-#ifdef ORVEL_TELLS_HEAP
-    return true;
-#else
-    return false;
-#endif
+    return heapInUse() >= 0;
 }
 
 QString describe(const Footprint &footprint)

@@ -21,7 +21,7 @@ struct Footprint {
 /// Carries out the deletions that are due before it looks.
 [[nodiscard]] Footprint footprint(const QList<const QObject *> &roots);
 
-/// False under the address sanitizer, whose allocator keeps freed memory back and does not tell what is in use.
+/// Whether heapBytes is known.
 [[nodiscard]] bool tellsHeap();
 
 /// "1234 KiB, 7 descriptors, ..."
