@@ -1,5 +1,6 @@
 #include "footprint.h"
 #include "heapinuse.h"
+#include "platform.h"
 
 #include <QApplication>
 #include <QDir>
@@ -14,11 +15,13 @@ namespace TestSupport {
 
 namespace {
 
+/// How many of them the kernel lists of this process, or -1.
 int entriesOf(const QString &directory)
 {
     const QDir dir(directory);
-    return dir.exists() ? static_cast<int>(dir.entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot).size())
-                        : -1;
+    if (!hasKernelFiles || !dir.exists())
+        return -1;
+    return static_cast<int>(dir.entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot).size());
 }
 
 void carryOutDeletions()

@@ -60,11 +60,10 @@ void meetReconnection(Stage &stage)
     const Outcome outcome = stage.fault().outcome;
     const Views before = Views::of(*stage.window);
     ModalDriver driver;
-    stage.daemon.dropConnections();
-    QTRY_COMPARE(stage.window->connectionState(), ConnectionState::Reconnecting);
+    stage.loseConnection();
     stage.expect(before);
     QCOMPARE(labelOf(stage, u"reconnectDialog"_s), u"Connection lost. Reconnecting to scheduler service..."_s);
-    WindowFixture::fire(stage.timer("reconnectTimer"));
+    stage.seekConnection();
     QTRY_VERIFY(stage.hasStruck());
     if (outcome == Outcome::Silent || outcome == Outcome::Refused) {
         QCOMPARE(stage.window->connectionState(), ConnectionState::Reconnecting);

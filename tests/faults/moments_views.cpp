@@ -198,13 +198,6 @@ Moment logMoment()
     return moment;
 }
 
-void loseAndFindConnection(Stage &stage)
-{
-    stage.daemon.dropConnections();
-    QTRY_COMPARE(stage.window->connectionState(), ConnectionState::Reconnecting);
-    WindowFixture::fire(stage.timer("reconnectTimer"));
-}
-
 // The filter is filled when a connection begins, twice. So it needs another connection to be right again.
 Moment filterMoment()
 {
@@ -212,14 +205,16 @@ Moment filterMoment()
     moment.lists = moment.asksMore = true;
     const auto failed = newestBut([](Views &views, const Stage & /*stage*/) { views.filter = {u"All Types"_s}; });
     const auto reconnect = [](Stage &stage) {
-        loseAndFindConnection(stage);
+        stage.loseConnection();
+        stage.seekConnection();
         QTRY_VERIFY(stage.hasStruck());
     };
     const auto look = quietly(reconnect, {renewed, failed, failed, failed});
     moment.meet = [look](Stage &stage) {
         look(stage);
         stage.mend();
-        loseAndFindConnection(stage);
+        stage.loseConnection();
+        stage.seekConnection();
         stage.settle();
     };
     return moment;

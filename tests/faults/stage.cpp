@@ -230,6 +230,25 @@ bool Stage::isReconnecting() const
     });
 }
 
+// However late the loss is noticed, and with whatever else: it is there to be seen.
+void Stage::loseConnection()
+{
+    m_wasPaced = m_pacer.isActive();
+    m_formerPause = m_pause;
+    setPace(heldMs);
+    daemon.dropConnections();
+    QTRY_COMPARE(window->connectionState(), ConnectionState::Reconnecting);
+}
+
+void Stage::seekConnection()
+{
+    if (m_wasPaced)
+        setPace(m_formerPause);
+    else
+        m_pacer.stop();
+    fire(timer("reconnectTimer"));
+}
+
 void Stage::settle()
 {
     QVERIFY(daemon.listen());

@@ -37,6 +37,10 @@ public:
     /// Mends as soon as a loss is shown, where the loss comes right behind an answer: its dialog then covers whatever
     /// the answer brings up.
     void mendWhenCovered();
+    /// The daemon drops the connection. Returns when the window shows that, before it has begun to look for another.
+    void loseConnection();
+    /// After loseConnection(): begins to look, in the next event loop.
+    void seekConnection();
     /// Waits until the window is connected, without the pauses that it makes, while the daemon listens.
     void settle();
 
@@ -67,8 +71,10 @@ private:
     int m_timeout = 0;
     std::optional<QJsonObject> m_struck; ///< the good answer that was not given
     bool m_mended = true;
-    bool m_settled = false; ///< since the strike was armed
-    int m_pause = 0;        ///< what the client's pauses are made to be while the pacer runs
+    bool m_settled = false;  ///< since the strike was armed
+    bool m_wasPaced = false; ///< when the connection was lost
+    int m_formerPause = 0;
+    int m_pause = 0; ///< what the client's pauses are made to be while the pacer runs
     QTimer m_pacer;
     QTimer m_watch;
 };

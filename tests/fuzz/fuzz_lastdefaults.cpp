@@ -6,10 +6,12 @@
 #include "forms.h"
 
 #include "mcslasttaskdefaults.h"
+#include "platform.h"
 
 #include <QDateTime>
 #include <QDir>
 #include <QFile>
+#include <QSettings>
 
 using namespace Qt::StringLiterals;
 using namespace Scheduler;
@@ -35,6 +37,15 @@ void writeSettings(const QByteArray &content)
     file.flush();
     time = time.addSecs(1);
     require(file.setFileTime(time, QFileDevice::FileModificationTime), "the settings have a time of their own");
+}
+
+void forgetSettings()
+{
+    if (TestSupport::settingsAreAFile)
+        writeSettings({});
+    else
+        QSettings(QSettings::NativeFormat, QSettings::UserScope, u"Tamrix Laboratory"_s, u"Orvel Task Scheduler"_s)
+            .clear();
 }
 
 /// A form of the type, built once, since that is most of the work.
@@ -71,7 +82,7 @@ int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     const QByteArray input = Fuzzing::bytesOf(data, size);
     const MCsLastTaskDefaults store;
     if (input.startsWith('{')) {
-        writeSettings({});
+        forgetSettings();
         const QJsonObject document = Fuzzing::objectFrom(input);
         store.saveDefaults(taskType(), document);
         const QJsonObject params = document.value("paramsJson"_L1).toObject();
@@ -80,8 +91,10 @@ int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
                 ? QJsonObject{{u"dynamicParams"_s, params.value("dynamicParams"_L1).toObject()}}
                 : QJsonObject();
         require(store.loadDefaults(taskType()) == expected, "what was saved is remembered");
-    } else {
+    } else if (TestSupport::settingsAreAFile) {
         writeSettings(input);
+    } else {
+        return 0;
     }
     const QJsonObject defaults = store.loadDefaults(taskType());
     require(defaults.isEmpty() || (defaults.size() == 1 && defaults.value("dynamicParams"_L1).isObject()),
