@@ -33,6 +33,12 @@ declare -A program_of_package=(
 # Whether apt's lists of packages were renewed in this run.
 lists_renewed=
 
+# A service, or a container, may start a command without it.
+if [[ -z "${HOME:-}" ]]; then
+    unset HOME
+    export HOME=~
+fi
+
 say()
 {
     printf '== %s\n' "$*" >&2
