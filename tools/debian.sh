@@ -1,7 +1,8 @@
 # shellcheck shell=bash disable=SC2154
 #
 # Sourced by try-packages and try-debian: a Debian system of its own in a directory, the commands that run in it, and the
-# line that tells of each step. Needs die and print_help of setup.sh, and these variables of its caller:
+# line that tells of each step; and by packaging/windows/build-qt, for the mirror. Comes after setup.sh, and needs these
+# variables of its caller:
 #
 #   system   the directory of the system
 #   log      the file that holds the output of the step at hand
@@ -12,6 +13,7 @@ require_own_system()
     ((EUID == 0)) || die "a system of its own takes root rights"
     have_apt || die "there is no apt here"
     require_packages "${trial_packages[@]}"
+    require_mirror
 }
 
 # step <text> <command>...: one line of what is tried; the command's output is shown only when it fails.
@@ -37,7 +39,7 @@ step()
 }
 
 # The Debian that this machine's apt uses: for each part the release's name, the archive and the name and component of
-# the part.
+# the part. They are in apt's lists, and without those there are none.
 machine_sources()
 {
     # shellcheck disable=SC2016
@@ -45,10 +47,18 @@ machine_sources()
         'Created-By: Packages' | sed -n 's/^Debian //p' | sort -u
 }
 
-# The archive that has every release of Debian.
+# The archive that has every release of Debian: the one of a release itself, and not of its updates. The sources may call
+# the release "stable".
 machine_mirror()
 {
-    machine_sources | awk '$1 == $3 { print $2; exit }'
+    machine_sources | awk 'NF == 4 && $1 !~ /-/ && mirror == "" { mirror = $2 } END { print mirror }'
+}
+
+# Ends the script where apt on this machine knows no such archive.
+require_mirror()
+{
+    [[ -n "$(machine_mirror)" ]] || renew_lists
+    [[ -n "$(machine_mirror)" ]] || die "apt on this machine names no mirror of Debian"
 }
 
 # sources_of <release>: its lines for a sources list. A release that this machine does not use comes without its updates.
@@ -62,11 +72,8 @@ sources_of()
 # make_system <release> <directory>
 make_system()
 {
-    local mirror
-    mirror="$(machine_mirror)"
-    [[ -n "$mirror" ]] || die "apt on this machine has no Debian to take a system from"
     # What it mounts for the while is mounted for it alone, and so goes with it even if it is killed.
-    unshare --mount debootstrap --variant=minbase "$1" "$2" "$mirror"
+    unshare --mount debootstrap --variant=minbase "$1" "$2" "$(machine_mirror)"
 }
 
 # prepare_system <release>: what the system needs to install packages as this machine does.

@@ -30,6 +30,7 @@ declare -A program_of_package=(
     [clang-format]=clang-format [clang-tidy]=run-clang-tidy [clang]=clang++ [xvfb]=Xvfb [imagemagick]=import
 )
 
+apt_get=(env DEBIAN_FRONTEND=noninteractive apt-get -y -q -o DPkg::Lock::Timeout=300)
 # Whether apt's lists of packages were renewed in this run.
 lists_renewed=
 
@@ -110,6 +111,14 @@ as_root()
     fi
 }
 
+# Renews apt's lists of packages, once in a run. Lists that could not be renewed are no failure yet: the old ones may do.
+renew_lists()
+{
+    [[ -z "$lists_renewed" ]] || return 0
+    as_root "${apt_get[@]}" update </dev/null >&2 || say "apt-get update failed; going on with the lists at hand"
+    lists_renewed=yes
+}
+
 # install_through_apt <package>...: fails when one of them cannot be installed.
 install_through_apt()
 {
@@ -117,14 +126,9 @@ install_through_apt()
         say "no root rights and no sudo; as root: apt-get install --no-install-recommends $*"
         return 1
     fi
-    local apt=(env DEBIAN_FRONTEND=noninteractive apt-get -y -q -o DPkg::Lock::Timeout=300)
     say "installing: $*"
-    if [[ -z "$lists_renewed" ]]; then
-        # Lists that could not be renewed are no failure yet: the old ones may do.
-        as_root "${apt[@]}" update </dev/null >&2 || say "apt-get update failed; going on with the lists at hand"
-        lists_renewed=yes
-    fi
-    as_root "${apt[@]}" install --no-install-recommends "$@" </dev/null >&2
+    renew_lists
+    as_root "${apt_get[@]}" install --no-install-recommends "$@" </dev/null >&2
 }
 
 # require_packages <package>...: returns with all of them in place, or ends the script with a message.
