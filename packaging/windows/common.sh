@@ -11,7 +11,7 @@ windows_source_packages=(dpkg-dev xz-utils)
 windows_run_packages=(wine64 fonts-wine fonts-symbola xvfb xdotool imagemagick)
 
 # Where what takes long to make is kept.
-windows_cache="${ORVEL_WINDOWS_CACHE:-${XDG_CACHE_HOME:-$HOME/.cache}/orvel-scheduler-manager}"
+windows_cache="${XDG_CACHE_HOME:-$HOME/.cache}/orvel-scheduler-manager"
 
 # Debian's version of its package of Qt, as in 6.4.2+dfsg-10.
 debian_qt_version()
@@ -25,7 +25,7 @@ windows_qt_folder()
 {
     local version
     version="$(debian_qt_version)"
-    printf '%s\n' "${ORVEL_WINDOWS_QT:-$windows_cache/qt-mingw-${version%%+*}}"
+    realpath -m -- "${ORVEL_WINDOWS_QT:-$windows_cache/qt-mingw-${version%%+*}}"
 }
 
 # Ends the script where Qt for Windows is not there, and makes it known to the presets "windows" where it is.
@@ -55,14 +55,16 @@ add_libraries()
 use_wine()
 {
     PATH="$PATH:/usr/lib/wine"
-    command -v wine64 wineserver >/dev/null || die "wine is missing (Debian package wine64)"
+    command -v wine64 >/dev/null && command -v wineserver >/dev/null || die "wine is missing (Debian package wine64)"
     # No questions about an engine for web pages or .NET, nothing in the menus of the desktop, no talk on standard error.
     export WINEARCH=win64 WINEDEBUG="${WINEDEBUG:--all}" WINEDLLOVERRIDES='mscoree,mshtml=;winemenubuilder.exe=d'
     # Where wine finds fonts: the ones that the programs need, and no colour emoji, which Qt leaves unscaled there.
     FONTCONFIG_FILE="$root/packaging/windows/fonts.conf"
     # Where Qt finds them when it shows no window.
     QT_QPA_FONTDIR="$(windows_path /usr/share/fonts/truetype/dejavu)"
-    export FONTCONFIG_FILE QT_QPA_FONTDIR
+    # The same folder for what is started elsewhere.
+    ORVEL_WINE="$(wine_folder)"
+    export FONTCONFIG_FILE QT_QPA_FONTDIR ORVEL_WINE
 }
 
 # hand_on_qt_settings: wine keeps Qt's variables to itself, and hands on those of these names without the first four letters.
@@ -89,7 +91,7 @@ mingw_runtime_folder()
 # Where the Windows prefixes of wine are.
 wine_folder()
 {
-    printf '%s\n' "${ORVEL_WINE:-$windows_cache/wine}"
+    realpath -m -- "${ORVEL_WINE:-$windows_cache/wine}"
 }
 
 # Fonts that Windows has and Debian cannot have, by what looks most like them.
@@ -100,8 +102,8 @@ replace_fonts()
         wine64 reg add "$key" /f /v 'Consolas' /d 'DejaVu Sans Mono'
 }
 
-# make_prefix <folder>: a Windows of its own there, once. Not the user's: its home folder is inside, and the links to the
-# user's documents that wine would make lead there.
+# make_prefix <folder>: a Windows of its own there, once. Not the user's: its home folder is inside, and so are the folders
+# for documents and the like, which wine makes links to the home folder.
 make_prefix()
 {
     local prefix="$1" lock
@@ -117,6 +119,7 @@ make_prefix()
             export HOME="$prefix.unfinished/home" WINEPREFIX="$prefix.unfinished"
             wine64 wineboot --init && wine64 winecfg -v win10 && replace_fonts && wineserver -w
         ) >"$prefix.log" 2>&1 </dev/null || die "wine could not be set up; see $prefix.log"
+        find "$prefix.unfinished/drive_c/users" -mindepth 2 -maxdepth 2 -type l -exec rm {} \; -exec mkdir {} \;
         mv -- "$prefix.unfinished" "$prefix"
     fi
     exec {lock}>&-
@@ -145,7 +148,7 @@ claim_prefix()
     make_new
 }
 
-# What an earlier run left: processes, where it was killed, settings and files.
+# Takes away what an earlier run left: processes, where it was killed, settings and files.
 make_new()
 {
     local template="${WINEPREFIX%/*}/template" folder
