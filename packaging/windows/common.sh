@@ -158,3 +158,15 @@ make_new()
         find "$folder" -mindepth 1 -maxdepth 1 ! -name Microsoft -exec rm -rf {} + 2>/dev/null || true
     done
 }
+
+# Ends what runs in a Windows that nobody uses any more: programs of a run that was killed.
+end_unclaimed()
+{
+    local file unclaimed
+    for file in "$(wine_folder)"/prefix-*.claim; do
+        [[ -d "${file%.claim}" ]] || continue
+        exec {unclaimed}>"$file"
+        ! flock -n "$unclaimed" || WINEPREFIX="${file%.claim}" wineserver -k {unclaimed}>&- 2>/dev/null || true
+        exec {unclaimed}>&-
+    done
+}
