@@ -30,17 +30,20 @@ QRegularExpression caseInsensitive(const QString &pattern)
     return QRegularExpression(pattern, QRegularExpression::CaseInsensitiveOption);
 }
 
-/// An expression matches nowhere in a text with half of a surrogate pair in it, and an escape in JSON can bring one.
-/// Such halves give way to what UTF-8, and so the log file, has in their place.
+/// The text with U+FFFD in place of each half of a surrogate pair. An escape in JSON can bring such a half. No
+/// expression matches anywhere in a text that has one, and some versions of Qt leave it out when they write the log
+/// file: the parts of a secret's name would come together there.
 QString wellFormed(const QString &text)
 {
-    return text.isValidUtf16() ? text : QString::fromUtf8(text.toUtf8());
+    return QString::fromStdU32String(text.toStdU32String());
 }
 
 } // namespace
 
 QString redactText(const QString &text)
 {
+    if (!text.isValidUtf16())
+        return redactText(wellFormed(text));
     if (!mayHoldSecret(text))
         return text;
 
@@ -49,7 +52,7 @@ QString redactText(const QString &text)
     static const QRegularExpression authorization = caseInsensitive(uR"((authorization|auth)[\s:=]+[^\s,;]+)"_s);
     static const QRegularExpression bearer = caseInsensitive(uR"(bearer\s+[a-zA-Z0-9\-._~+/]+=*)"_s);
 
-    QString redacted = wellFormed(text);
+    QString redacted = text;
     redacted.replace(credential, u"\\1=***REDACTED***"_s);
     redacted.replace(authorization, u"\\1=***REDACTED***"_s);
     redacted.replace(bearer, u"bearer ***REDACTED***"_s);
