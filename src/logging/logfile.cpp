@@ -2,6 +2,7 @@
 
 #include "mcssecurityutils.h"
 
+#include <QBuffer>
 #include <QDebug>
 #include <QFile>
 #include <QFileInfo>
@@ -10,13 +11,28 @@ namespace Scheduler {
 
 using namespace Qt::StringLiterals;
 
+namespace {
+
+/// The bytes with the line ends that text files have on this system. A file that is opened as text would write each of
+/// these by itself.
+QByteArray withLineEnds(const QByteArray &bytes)
+{
+    QByteArray text;
+    QBuffer buffer(&text);
+    buffer.open(QIODevice::WriteOnly | QIODevice::Text);
+    buffer.write(bytes);
+    return text;
+}
+
+} // namespace
+
 void LogFile::writeLine(const QString &line) const
 {
     // Without a buffer the line is one write: it cannot be torn by a second manager process that logs to the same
     // file, and a full disk shows at once.
-    constexpr QIODevice::OpenMode mode =
-        QIODevice::WriteOnly | QIODevice::Append | QIODevice::Text | QIODevice::Unbuffered;
+    constexpr QIODevice::OpenMode mode = QIODevice::WriteOnly | QIODevice::Append | QIODevice::Unbuffered;
     const QByteArray bytes = line.toUtf8().append('\n');
+    const QByteArray text = withLineEnds(bytes);
     QFile file(logFilePath);
 
     // Nearly always the file is there and has room, and then one open tells both.
@@ -29,7 +45,7 @@ void LogFile::writeLine(const QString &line) const
             return;
         }
     }
-    if (file.write(bytes) != bytes.size()) {
+    if (file.write(text) != text.size()) {
         qWarning() << "Failed to write log file:" << logFilePath;
         return;
     }
