@@ -1,9 +1,9 @@
 #include "mcsnamedpipeserver.h"
 
+#include "endpoint.h"
 #include "mcsipcserverconnection.h"
 #include "wireprotocol.h"
 
-#include <QFileInfo>
 #include <QLocalServer>
 #include <QLocalSocket>
 
@@ -71,13 +71,12 @@ bool MCsNamedPipeServer::listen(const QString &serverName)
     return false;
 }
 
-// Where local sockets are files, listening replaces a file of that name whether or not a process still serves it. So
-// the endpoint is claimed first: by a lock against a server that starts at the same moment, and by asking whether
-// anybody answers.
+// Listening replaces a socket of that name whether or not a process still serves it, or serves a pipe beside another
+// process. So the endpoint is claimed first: by a lock against a server that starts at the same moment, and by asking
+// whether anybody answers.
 bool MCsNamedPipeServer::claim(const QString &serverName)
 {
-#ifndef Q_OS_WIN
-    auto lock = std::make_unique<QLockFile>(serverName + u".lock"_s);
+    auto lock = std::make_unique<QLockFile>(lockFileOf(serverName));
     lock->setStaleLockTime(0); // held for as long as its process lives
     if (!lock->tryLock()) {
         m_errorString = lock->error() == QLockFile::LockFailedError
@@ -89,19 +88,11 @@ bool MCsNamedPipeServer::claim(const QString &serverName)
         m_errorString = u"Another process already listens on %1"_s.arg(serverName);
         return false;
     }
-    // What is left may be removed, but only if it is a socket.
-    if (const QFileInfo remains(serverName); remains.isFile() || remains.isDir()) {
+    if (!removeRemains(serverName)) {
         m_errorString = u"Cannot listen on %1: something else bears that name"_s.arg(serverName);
         return false;
     }
-    QLocalServer::removeServer(serverName);
     m_lock = std::move(lock);
-#else
-    if (isAlive(serverName)) {
-        m_errorString = u"Another process already listens on %1"_s.arg(serverName);
-        return false;
-    }
-#endif
     return true;
 }
 

@@ -1,9 +1,7 @@
 #include "wireprotocol.h"
 
 #include <QJsonDocument>
-#ifndef Q_OS_WIN
 #include <QStandardPaths>
-#endif
 
 using namespace Qt::StringLiterals;
 

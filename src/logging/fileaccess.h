@@ -1,5 +1,7 @@
 #pragma once
 
+class QString;
+
 namespace Scheduler {
 
 /// The step at which restricting a file failed.
@@ -13,5 +15,8 @@ struct FileAccessResult {
 /// Lets the process user read and write the file and the local administrators read it, and shuts out everybody else,
 /// rights inherited from the directory included. Holds no Qt, so that it compiles and can be tried by itself.
 [[nodiscard]] FileAccessResult restrictFileAccessOnWindows(const wchar_t *path);
+
+/// The same in the way of this system; elsewhere that is mode 0640.
+[[nodiscard]] FileAccessResult applyFileAccess(const QString &path);
 
 } // namespace Scheduler

@@ -2,10 +2,7 @@
 
 #include "mcslogger.h"
 
-#include <QFile>
 #include <QFileInfo>
-
-#include <cerrno>
 
 namespace Scheduler {
 
@@ -14,21 +11,6 @@ using namespace Qt::StringLiterals;
 namespace {
 
 const QString logSource = u"MCsSecurityUtils"_s;
-
-#ifdef Q_OS_WIN
-FileAccessResult applyFileAccess(const QString &path)
-{
-    return restrictFileAccessOnWindows(path.toStdWString().c_str());
-}
-#else
-FileAccessResult applyFileAccess(const QString &path)
-{
-    errno = 0;
-    if (QFile::setPermissions(path, QFile::ReadOwner | QFile::WriteOwner | QFile::ReadGroup))
-        return {};
-    return {FileAccessFailure::FileSecurity, static_cast<unsigned long>(errno)};
-}
-#endif
 
 } // namespace
 

@@ -242,10 +242,10 @@ void TestNamedPipeServer::missingRuntimeDirectoryIsAReason()
 
 void TestNamedPipeServer::successClearsTheReason()
 {
-    if (!endpointsAreFiles)
-        QSKIP(endpointsAreNoFiles);
+    MCsNamedPipeServer other;
+    QVERIFY(other.listen(path(u"taken"_s)));
     MCsNamedPipeServer server;
-    QVERIFY(!server.listen(path(u"missing/s"_s)));
+    QVERIFY(!server.listen(path(u"taken"_s)));
     QVERIFY(!server.errorString().isEmpty());
     QVERIFY(server.listen(path(u"s"_s)));
     QCOMPARE(server.errorString(), QString());

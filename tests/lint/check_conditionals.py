@@ -8,14 +8,12 @@ import re
 import sys
 from pathlib import Path
 
-FOLDERS = ("src", "devdaemon", "protocolcheck", "examples", "benchmarks", "tests")
+FOLDERS = ("src", "devdaemon", "protocolcheck", "examples", "benchmarks", "tests", "tools")
 
 # Where conditionals may stand, and how many.
 PLACES = {
-    "src/ipc/mcsnamedpipeserver.cpp": 1,  # what a socket leaves behind in the file system
-    "src/ipc/socketpeer.cpp": 3,  # who is at the other end
-    "src/ipc/wireprotocol.cpp": 2,  # the endpoint's name
-    "src/logging/mcssecurityutils.cpp": 1,  # rights of files
+    "src/ipc/socketpeer_unix.cpp": 1,  # how a system tells who is at the other end
+    "src/ipc/wireprotocol.cpp": 1,  # the endpoint's name
     "src/mainwindow/servicecontrol.cpp": 1,  # tools that start the service
     "tests/support/platform.h": 2,  # all that the tests know of the system
 }

@@ -1,15 +1,11 @@
 #include "socketpeer.h"
 
-#ifdef Q_OS_UNIX
 #include <sys/socket.h>
 #include <unistd.h>
-#endif
 
 using namespace Qt::StringLiterals;
 
 namespace Scheduler {
-
-#ifdef Q_OS_UNIX
 
 namespace {
 
@@ -44,14 +40,5 @@ std::optional<QString> strangerBehind(qintptr socketDescriptor)
         return u"it is served by another user (id %1)"_s.arg(*user);
     return std::nullopt;
 }
-
-#else
-
-std::optional<QString> strangerBehind(qintptr /*socketDescriptor*/)
-{
-    return std::nullopt;
-}
-
-#endif
 
 } // namespace Scheduler

@@ -1,0 +1,8 @@
+#include "fileaccess.h"
+
+#include <QString>
+
+Scheduler::FileAccessResult Scheduler::applyFileAccess(const QString &path)
+{
+    return restrictFileAccessOnWindows(path.toStdWString().c_str());
+}
