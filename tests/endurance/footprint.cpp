@@ -4,6 +4,7 @@
 
 #include <QApplication>
 #include <QDir>
+#include <QPixmapCache>
 #include <QTimer>
 #include <QWidget>
 
@@ -24,6 +25,12 @@ int entriesOf(const QString &directory)
     return static_cast<int>(dir.entryList(QDir::AllEntries | QDir::System | QDir::NoDotAndDotDot).size());
 }
 
+/// Qt's cache of pictures has a limit of its own, and some versions fill it with the icons of message boxes.
+void emptyCaches()
+{
+    QPixmapCache::clear();
+}
+
 void carryOutDeletions()
 {
     QCoreApplication::processEvents();
@@ -36,6 +43,7 @@ void carryOutDeletions()
 Footprint footprint(const QList<const QObject *> &roots)
 {
     carryOutDeletions();
+    emptyCaches();
     Footprint result;
     result.heapBytes = heapInUse();
     result.descriptors = entriesOf(u"/proc/self/fd"_s);

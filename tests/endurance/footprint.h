@@ -18,7 +18,7 @@ struct Footprint {
     int running = -1; ///< the running ones among those
 };
 
-/// Carries out the deletions that are due before it looks.
+/// Carries out the deletions that are due, and empties Qt's cache of pictures, before it looks.
 [[nodiscard]] Footprint footprint(const QList<const QObject *> &roots);
 
 /// Whether heapBytes is known.

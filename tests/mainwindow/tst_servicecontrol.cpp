@@ -85,6 +85,8 @@ void TestServiceControl::aStartThatTakesTooLongCountsAsSuccessAndIsEnded()
 
 void TestServiceControl::aMissingQueryToolMeansNeitherRunningNorInstalled()
 {
+    if (!FakeServiceTools::canBeMissing)
+        QSKIP("the system has a tool of that name, which is always found");
     FakeServiceTools tools;
     tools.uninstall();
     QVERIFY(!ServiceControl::isServiceRunning());

@@ -7,8 +7,8 @@
 
 class QProcess;
 
-// What the tests have to know of the system that they run on. Only this header and the source files behind it
-// (platform_unix.cpp, platform_win.cpp) ask which one that is.
+// What the tests have to know of the system that they run on. Only this header asks which one that is; CMake picks the
+// source file behind it (platform_unix.cpp or platform_win.cpp).
 
 namespace TestSupport {
 
@@ -111,8 +111,5 @@ public:
 private:
     bool m_changed;
 };
-
-/// Whether the system is no Windows but wine, which does some things of Windows in its own way or not at all.
-[[nodiscard]] bool isWine();
 
 } // namespace TestSupport

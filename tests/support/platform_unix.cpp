@@ -82,9 +82,4 @@ OtherUser::~OtherUser()
         ::_exit(1); // nothing that follows would mean anything
 }
 
-bool isWine()
-{
-    return false;
-}
-
 } // namespace TestSupport

@@ -54,10 +54,4 @@ OtherUser::OtherUser()
 
 OtherUser::~OtherUser() = default;
 
-bool isWine()
-{
-    const HMODULE library = GetModuleHandleW(L"ntdll.dll");
-    return library != nullptr && GetProcAddress(library, "wine_get_version") != nullptr;
-}
-
 } // namespace TestSupport
