@@ -148,7 +148,7 @@ void LogFormsTest::debugOutputIsAnArrayOfSingleKeyObjects_data()
     QTest::newRow("control characters") << u"\x01\b"_s << u"a\nb\tc\rd\fe\x1Fz\x7F"_s + QChar(0) << QJsonObject();
     QTest::newRow("not ASCII") << u"größer"_s << u"\u4EFB\u52A1\u2028\u00A0\uFFFF"_s << QJsonObject{{u"ä"_s, u"ö"_s}};
     QTest::newRow("surrogates") << u"\U0001F600"_s << u"a\U0001F600b"_s << QJsonObject();
-    QTest::newRow("lone surrogates") << QString(QChar(0xD800)) << u"a"_s + QChar(0xDC00) + u'b' << QJsonObject();
+    QTest::newRow("lone surrogates") << QString(QChar(0xD800)) << u"a"_s << QJsonObject{{u"a"_s + QChar(0xDC00), 1}};
     QTest::newRow("place markers") << u"%1"_s << u"%1%2%3 %4"_s << QJsonObject{{u"%1"_s, u"%2"_s}};
 }
 
@@ -175,7 +175,8 @@ void LogFormsTest::everyCharacterIsEscapedAsJsonAsksFor()
             capture.clear();
             MCsLogger::instance().warn(u"Main"_s, message);
             const QString text = debugText(capture);
-            QCOMPARE(text, printed(timestampOf(text), u"Main"_s, message, {}));
+            const QString expected = QChar::isSurrogate(unit) ? QString(QChar::ReplacementCharacter) : message;
+            QCOMPARE(text, printed(timestampOf(text), u"Main"_s, expected, {}));
         }
     };
     check(0, 0x180);
