@@ -20,7 +20,8 @@ constexpr int answerMs = 4000;
 constexpr int patientMs = 20000;
 /// For a command that nothing comes before, so that no good answer has to hurry.
 constexpr int shortMs = 40;
-constexpr int mediumMs = 100;
+/// For one that others come before, which have to be answered in this time, too.
+constexpr int mediumMs = GOOD_ANSWER_MS;
 /// For a command under whose wait the next connection has to stand.
 constexpr int reconnectionMs = 500;
 /// Between two attempts while the daemon is gone: on a slow machine the window would else give up before the test is
