@@ -18,10 +18,10 @@ namespace {
 /// may go out on a connection that is lost already, and waits in vain.
 constexpr int answerMs = 4000;
 constexpr int patientMs = 20000;
-/// For a command that nothing comes before, so that no good answer has to hurry.
-constexpr int shortMs = 40;
+/// For a command that nothing comes before, so that no good answer has to hurry. The daemon has to have it by then.
+constexpr int shortMs = 40 * PIPE_SLOWNESS;
 /// For one that others come before, which have to be answered in this time, too.
-constexpr int mediumMs = GOOD_ANSWER_MS;
+constexpr int mediumMs = 100 * PIPE_SLOWNESS;
 /// For a command under whose wait the next connection has to stand.
 constexpr int reconnectionMs = 500;
 /// Between two attempts while the daemon is gone: on a slow machine the window would else give up before the test is
