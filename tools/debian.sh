@@ -72,8 +72,12 @@ sources_of()
 # make_system <release> <directory>
 make_system()
 {
+    local mirror more=()
+    mirror="$(machine_mirror)"
+    # Without them the system's own apt would trust no such mirror.
+    [[ "$mirror" != https:* ]] || more=(--include=ca-certificates)
     # What it mounts for the while is mounted for it alone, and so goes with it even if it is killed.
-    unshare --mount debootstrap --variant=minbase "$1" "$2" "$(machine_mirror)"
+    unshare --mount debootstrap --variant=minbase "${more[@]}" "$1" "$2" "$mirror"
 }
 
 # prepare_system <release>: what the system needs to install packages as this machine does.
