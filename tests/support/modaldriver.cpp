@@ -149,8 +149,13 @@ void ModalDriver::poll()
     QMetaObject::invokeMethod(
         &m_timer,
         [this, guard = QPointer<QDialog>(dialog)] {
-            if (guard != nullptr && guard->isVisible())
+            if (guard == nullptr || !guard->isVisible())
+                return;
+            // What has come over it meanwhile is met first; a user could not press its buttons, either.
+            if (QApplication::activeModalWidget() == guard)
                 handle(guard);
+            else
+                m_known.removeAll(guard);
         },
         Qt::QueuedConnection);
 }

@@ -3,6 +3,7 @@
 
 #include <QInputDialog>
 #include <QProgressDialog>
+#include <QTimer>
 
 #include <memory>
 
@@ -38,6 +39,39 @@ std::unique_ptr<QProgressDialog> shownProgress()
     return progress;
 }
 
+/// Shows a progress dialog for a while as soon as the driver has seen a box and before it presses anything.
+class Cover : public QObject {
+public:
+    Cover()
+    {
+        qApp->installEventFilter(this);
+    }
+    [[nodiscard]] bool hasCovered() const
+    {
+        return m_covered;
+    }
+
+private:
+    // The driver looks around when its timer fires, and acts on what it has seen in a later event.
+    bool eventFilter(QObject *receiver, QEvent *event) override
+    {
+        if (!m_covered && event->type() == QEvent::Timer && qobject_cast<QTimer *>(receiver) != nullptr &&
+            qobject_cast<QMessageBox *>(QApplication::activeModalWidget()) != nullptr) {
+            m_covered = true;
+            QMetaObject::invokeMethod(this, &Cover::cover, Qt::QueuedConnection);
+        }
+        return false;
+    }
+    void cover()
+    {
+        m_progress = shownProgress();
+        QTimer::singleShot(20, this, [this] { m_progress.reset(); });
+    }
+
+    bool m_covered = false;
+    std::unique_ptr<QProgressDialog> m_progress;
+};
+
 } // namespace
 
 class TestModalDriver : public QObject {
@@ -55,6 +89,7 @@ private slots:
     void dialogActionMayBringUpABox();
     void dialogThatItsActionLeavesOpenIsReportedAndRejected();
     void unexpectedDialogIsRejectedAndReported();
+    void boxThatIsCoveredBeforeItIsMetIsMetLater();
     void sameDialogMayBeRunAgain();
     void driverThatFailedSaysSoUnasked();
     void progressDialogIsLeftAloneUnlessExpected();
@@ -186,6 +221,16 @@ void TestModalDriver::unexpectedDialogIsRejectedAndReported()
     QCOMPARE(driver.problems(),
              "unexpected: QInputDialog titled \"Other\"; expected next: QInputDialog titled \"Enter\""
              "\nnever came: QInputDialog titled \"Enter\"");
+}
+
+void TestModalDriver::boxThatIsCoveredBeforeItIsMetIsMetLater()
+{
+    const Cover cover;
+    ModalDriver driver;
+    driver.expectBox(QMessageBox::Warning, u"Title"_s, u"one"_s);
+    QCOMPARE(warn(u"one"_s), QMessageBox::Ok);
+    QVERIFY(cover.hasCovered());
+    QVERIFY2(driver.finished(), driver.problems());
 }
 
 void TestModalDriver::sameDialogMayBeRunAgain()
