@@ -2,9 +2,9 @@
 
 namespace Scheduler::ServiceControl {
 
-// The daemon's system service, asked and started through the platform's own tools, which the system finds as it finds every program.
-// Each call blocks the thread for at most the tool's time: 3 seconds for a query, 5 for the start. What a tool prints
-// counts, its exit code only for the start.
+// The daemon's system service, asked and started through the platform's own tools, which the system finds as it finds
+// every program. Each call blocks the thread for at most the tool's time: 3 seconds for a query, 5 for the start. What
+// a tool prints counts, its exit code only for the start.
 
 [[nodiscard]] bool isServiceRunning();
 [[nodiscard]] bool isServiceInstalled();
