@@ -132,7 +132,8 @@ void TestOverlappingRefreshes::aSilentDaemonHasNoTwoStatusRequestsWaiting()
     QFETCH(bool, dialog);
     ModalDriver driver;
     const auto sent = [this] { return m_fixture->daemon.requests(taskList).size(); };
-    const auto threeAreSent = [&] { QTRY_COMPARE_WITH_TIMEOUT(sent(), 3, 20000); };
+    // More when the end of a wait is noticed late.
+    const auto threeAreSent = [&] { QTRY_VERIFY_WITH_TIMEOUT(sent() >= 3, 20000); };
     // Well inside the time that a request waits, so that a slow machine makes no difference.
     constexpr int surelyWaitingMs = MCsSchedulerClient::commandTimeoutMs * 3 / 4;
     QList<QDeadlineTimer> waits;
