@@ -66,6 +66,8 @@ CommandLine parseCommandLine(const QStringList &arguments)
         return refusal(u"--groups needs a number from 0 to 10000."_s);
     if (!seconds)
         return refusal(u"--run-seconds needs a number from 0 to 86400."_s);
+    if (parser.isSet(empty) && (*taskCount > 0 || *groupCount > 0))
+        return refusal(u"--empty starts with nothing, so it does not go together with --tasks or --groups."_s);
     return {DaemonOptions{parser.value(state), parser.isSet(empty), *taskCount, *groupCount, *seconds,
                           parser.isSet(verbose)},
             {},

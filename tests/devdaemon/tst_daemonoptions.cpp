@@ -12,6 +12,7 @@ private slots:
     void initTestCase();
     void withoutArgumentsTheDefaultsHold();
     void everyOptionIsTaken();
+    void emptyIsTaken();
     void wrongArgumentsAreExplained_data();
     void wrongArgumentsAreExplained();
     void helpAndVersionEndWithSuccess_data();
@@ -44,15 +45,21 @@ void TestDaemonOptions::withoutArgumentsTheDefaultsHold()
 
 void TestDaemonOptions::everyOptionIsTaken()
 {
-    const CommandLine line = parse({u"--state"_s, u"/tmp/my state.json"_s, u"--empty"_s, u"--verbose"_s,
-                                    u"--tasks=10"_s, u"--groups"_s, u"3"_s, u"--run-seconds"_s, u"0"_s});
+    const CommandLine line = parse({u"--state"_s, u"/tmp/my state.json"_s, u"--verbose"_s, u"--tasks=10"_s,
+                                    u"--groups"_s, u"3"_s, u"--run-seconds"_s, u"0"_s});
     QVERIFY(line.options.has_value());
     QCOMPARE(line.options->statePath, u"/tmp/my state.json"_s);
-    QVERIFY(line.options->empty);
     QVERIFY(line.options->verbose);
     QCOMPARE(line.options->taskCount, 10);
     QCOMPARE(line.options->groupCount, 3);
     QCOMPARE(line.options->runSeconds, 0);
+}
+
+void TestDaemonOptions::emptyIsTaken()
+{
+    const CommandLine line = parse({u"--empty"_s, u"--tasks=0"_s});
+    QVERIFY(line.options.has_value());
+    QVERIFY(line.options->empty);
 }
 
 void TestDaemonOptions::wrongArgumentsAreExplained_data()
@@ -67,6 +74,8 @@ void TestDaemonOptions::wrongArgumentsAreExplained_data()
     QTest::newRow("groups, negative") << QStringList{u"--groups=-1"_s} << u"--groups"_s;
     QTest::newRow("groups, too many") << QStringList{u"--groups=10001"_s} << u"--groups"_s;
     QTest::newRow("seconds, no number") << QStringList{u"--run-seconds=1.5"_s} << u"--run-seconds"_s;
+    QTest::newRow("empty with tasks") << QStringList{u"--empty"_s, u"--tasks=1"_s} << u"--empty"_s;
+    QTest::newRow("empty with groups") << QStringList{u"--groups=1"_s, u"--empty"_s} << u"--empty"_s;
 }
 
 void TestDaemonOptions::wrongArgumentsAreExplained()
