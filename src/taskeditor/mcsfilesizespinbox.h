@@ -23,8 +23,10 @@ public:
     /// Shows the value in the unit that suits it; a value outside the limits becomes the nearer limit.
     void setBytes(qint64 bytes);
 
-private:
+private slots:
     void onValueChanged();
+
+private:
     void applyUnit(int unit, qint64 bytes);
 
     int m_unit = 0;          ///< 0 KB, 1 MB, 2 GB

@@ -1,14 +1,12 @@
 #include "logcapture.h"
 #include "mcslogger.h"
 #include "modaldriver.h"
-#include "platform.h"
-#include "programparameters.h"
 #include "resources.h"
+#include "startcommand.h"
 #include "startup.h"
 #include "testmain.h"
 
 #include <QApplication>
-#include <QDir>
 #include <QFile>
 #include <QIcon>
 #include <QTemporaryDir>
@@ -16,37 +14,6 @@
 using namespace Scheduler;
 using namespace TestSupport;
 using namespace Qt::StringLiterals;
-
-namespace {
-
-/// A command line with the four required values; an empty value stands for an option that is left out.
-QStringList commandLine(const QString &taskType, const QString &language, const QString &name, const QString &path)
-{
-    QStringList arguments{u"manager"_s};
-    const auto add = [&arguments](const QString &option, const QString &value) {
-        if (!value.isEmpty())
-            arguments << option << value;
-    };
-    add(u"--task-type"_s, taskType);
-    add(u"--language"_s, language);
-    add(u"--program-name"_s, name);
-    add(u"--program-path"_s, path);
-    return arguments;
-}
-
-QStringList completeCommandLine()
-{
-    return commandLine(u"task_type.test"_s, u"en"_s, u"Foo"_s, u"/no/such/program"_s);
-}
-
-/// The line that a value adds to what main logs.
-QStringList startLines(const QString &taskType, const QString &parametersFile = {})
-{
-    return {u"INFO Starting SchedulerManager..."_s, u"INFO Task Type: "_s + taskType, u"INFO Program Name: Foo"_s,
-            u"INFO Program Path: /no/such/program"_s, u"INFO Program Parameter JSON Path: "_s + parametersFile};
-}
-
-} // namespace
 
 /// What main does with its command line before the window stands.
 class TestStartup : public QObject {
@@ -59,11 +26,8 @@ private slots:
     void aTaskTypeMustBeAllowed_data();
     void aTaskTypeMustBeAllowed();
     void missingComesBeforeABadTaskType();
-    void theParameterFileIsReadAsText_data();
-    void theParameterFileIsReadAsText();
-    void aParameterFileThatCannotBeUsedIsReported_data();
-    void aParameterFileThatCannotBeUsedIsReported();
-    void aParameterFileOfAHundredMegabytesIsRead();
+    void anUnknownLanguageOrAMissingProgramStopsNothing_data();
+    void anUnknownLanguageOrAMissingProgramStopsNothing();
     void aLaterOptionBeatsAnEarlierOne();
     void theApplicationIsIdentified();
     void debugTextBesideTheExecutableTurnsDebugEntriesOn();
@@ -148,85 +112,25 @@ void TestStartup::missingComesBeforeABadTaskType()
     QVERIFY2(driver.finished(), driver.problems());
 }
 
-void TestStartup::theParameterFileIsReadAsText_data()
+void TestStartup::anUnknownLanguageOrAMissingProgramStopsNothing_data()
 {
-    QTest::addColumn<QByteArray>("content");
-    QTest::addColumn<QString>("text");
-    QTest::newRow("json") << QByteArray(R"({"a": 1})") << uR"({"a": 1})"_s;
-    QTest::newRow("malformed, not trimmed") << QByteArray("  {]\n ") << u"  {]\n "_s;
-    QTest::newRow("utf-8") << QByteArray("{\"é\":\"会\"}") << u"{\"é\":\"会\"}"_s;
-    QTest::newRow("line ends of text mode") << QByteArray("{\r\n}") << u"{\n}"_s;
-    QTest::newRow("not utf-8") << QByteArray("{\"\xE9\": 1}") << u"{\"\uFFFD\": 1}"_s;
-    QTest::newRow("with a byte order mark") << QByteArray("\xEF\xBB\xBF{}") << u"{}"_s;
-    QTest::newRow("zero bytes") << QByteArray("{\0}", 3) << u"{\0}"_s;
-}
-
-void TestStartup::theParameterFileIsReadAsText()
-{
-    QFETCH(QByteArray, content);
-    const QString path = m_directory.filePath(u"parameters %1.json"_s);
-    QFile file(path);
-    QVERIFY(file.open(QIODevice::WriteOnly | QIODevice::Truncate));
-    file.write(content);
-    file.close();
-    const LogCapture log;
-    const auto values =
-        readCommandLine(completeCommandLine() << u"--program-parameters-file"_s << u" "_s + path + u" "_s);
-    QVERIFY(values);
-    QTEST(values->programParametersJson, "text");
-    QCOMPARE(log.lines(u"Main"_s), startLines(u"task_type.test"_s, path));
-}
-
-void TestStartup::aParameterFileThatCannotBeUsedIsReported_data()
-{
+    QTest::addColumn<QString>("language");
     QTest::addColumn<QString>("path");
-    QTest::addColumn<QString>("text");
-    const auto fileWith = [this](const QString &name, const QByteArray &content) {
-        QFile file(m_directory.filePath(name));
-        if (file.open(QIODevice::WriteOnly))
-            file.write(content);
-        return file.fileName();
-    };
-    const QString empty = u"Program parameter JSON file is empty!"_s;
-    QTest::newRow("missing") << m_directory.filePath(u"missing"_s) << u"Program parameter JSON file not found!"_s;
-    QTest::newRow("a directory") << m_directory.path() << u"Failed to open program parameter JSON file!"_s;
-    QTest::newRow("empty") << fileWith(u"empty"_s, {}) << empty;
-    QTest::newRow("blanks and line ends") << fileWith(u"blanks"_s, " \r\n\t\n") << empty;
-    if (const QString pipe = m_directory.filePath(u"pipe"_s); makePipeFile(pipe))
-        QTest::newRow("a pipe that nobody writes to") << pipe << u"Failed to open program parameter JSON file!"_s;
-    if (hasKernelFiles)
-        QTest::newRow("a device without an end") << u"/dev/zero"_s << u"Failed to open program parameter JSON file!"_s;
-    const QString link = m_directory.filePath(u"link"_s);
-    if (linksAreFollowed && QFile::link(m_directory.filePath(u"missing"_s), link))
-        QTest::newRow("a link that leads nowhere") << link << u"Failed to open program parameter JSON file!"_s;
+    QTest::newRow("unknown language") << u"klingon"_s << QCoreApplication::applicationFilePath();
+    QTest::newRow("program that is not there") << u"en"_s << m_directory.filePath(u"missing"_s);
+    QTest::newRow("program that is a directory") << u"en"_s << m_directory.path();
 }
 
-void TestStartup::aParameterFileThatCannotBeUsedIsReported()
+void TestStartup::anUnknownLanguageOrAMissingProgramStopsNothing()
 {
+    QFETCH(QString, language);
     QFETCH(QString, path);
-    QFETCH(QString, text);
     ModalDriver driver;
-    driver.expectBox(QMessageBox::Warning, u"Error"_s, text, QMessageBox::Ok, QMessageBox::Ok);
-    const LogCapture log;
-    QVERIFY(!readCommandLine(completeCommandLine() << u"--program-parameters-file"_s << path));
+    const auto values = readCommandLine(commandLine(u"task_type.test"_s, language, u"Foo"_s, path));
     QVERIFY2(driver.finished(), driver.problems());
-    QCOMPARE(log.lines(), startLines(u"task_type.test"_s, path));
-}
-
-void TestStartup::aParameterFileOfAHundredMegabytesIsRead()
-{
-    constexpr qsizetype size = 100'000'000;
-    const QByteArray content = R"({"padding": ")" + QByteArray(size, 'x') + R"(", "frameRate": {"defaultValue": 25}})";
-    QFile file(m_directory.filePath(u"large.json"_s));
-    QVERIFY(file.open(QIODevice::WriteOnly));
-    QCOMPARE(file.write(content), content.size());
-    file.close();
-    const auto values = readCommandLine(completeCommandLine() << u"--program-parameters-file"_s << file.fileName());
-    QVERIFY(file.remove());
     QVERIFY(values);
-    QCOMPARE(values->programParametersJson.size(), content.size());
-    const QJsonObject parameters = parseProgramParameters(values->programParametersJson);
-    QCOMPARE(parameters["frameRate"_L1]["defaultValue"_L1].toInt(), 25);
+    QCOMPARE(values->language, language);
+    QCOMPARE(values->programPath, path);
 }
 
 void TestStartup::aLaterOptionBeatsAnEarlierOne()
