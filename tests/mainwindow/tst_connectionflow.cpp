@@ -5,10 +5,13 @@
 #include "windowfixture.h"
 
 #include <QApplication>
+#include <QElapsedTimer>
 #include <QProgressDialog>
 #include <QPushButton>
 #include <QTableWidget>
 #include <QTreeWidget>
+
+#include <optional>
 
 using namespace Scheduler;
 using namespace TestSupport;
@@ -46,7 +49,8 @@ void TestConnectionFlow::aDaemonThatIsUpIsConnectedByOneAttempt()
     QCOMPARE(fixture.daemon.acceptedCount(), 1);
     QCOMPARE(fixture.daemon.requests(u"client.register"_s).size(), 1);
     QCOMPARE(tools.calls(), QStringList());
-    for (const char *name : {"createButton", "refreshButton", "createGroupButton", "refreshGroupButton"})
+    for (const char *name :
+         {"createButton", "refreshButton", "typeFilterCombo", "createGroupButton", "refreshGroupButton"})
         QVERIFY2(fixture.widget<QWidget>(name)->isEnabled(), name);
     for (const char *name : {"editButton", "deleteButton", "triggerButton", "editGroupButton", "deleteGroupButton"})
         QVERIFY2(!fixture.widget<QWidget>(name)->isEnabled(), name);
@@ -68,10 +72,17 @@ void TestConnectionFlow::theTypeOfTheHostIsRegistered()
 void TestConnectionFlow::theWindowStandsDisconnectedBeforeItConnects()
 {
     WindowFixture fixture;
-    fixture.open();
+    fixture.make();
+    // It connects a tenth of a second after its first show; a timer of that length may fire a twentieth early.
+    std::optional<ConnectionState> shortlyBefore;
+    QTimer::singleShot(90, Qt::PreciseTimer, fixture.window.get(),
+                       [&] { shortlyBefore = fixture.window->connectionState(); });
+    fixture.window->show();
     QCOMPARE(fixture.window->connectionState(), ConnectionState::Idle);
     QCOMPARE(fixture.status(), u"Disconnected"_s);
     QCOMPARE(fixture.widget<QLabel>("statusLabel")->styleSheet(), u"color: red;"_s);
+    QTRY_COMPARE(fixture.window->connectionState(), ConnectionState::Connecting);
+    QCOMPARE(shortlyBefore, ConnectionState::Idle);
 }
 
 void TestConnectionFlow::showingAgainDoesNotConnectAgain()
@@ -169,6 +180,14 @@ void TestConnectionFlow::anEmptyListAsksOnceWhetherToCreateATask()
     WindowFixture fixture;
     QVERIFY(fixture.startDaemon());
     fixture.daemon.answer(u"task.countByType"_s, {{u"count"_s, count}});
+    // The groups are the last that is read before the question's time begins to run.
+    QElapsedTimer sinceGroups;
+    qint64 countedAfter = -1;
+    fixture.daemon.onRequest(u"group.listByTaskType"_s, [&](const QJsonObject &) {
+        if (!sinceGroups.isValid())
+            sinceGroups.start();
+    });
+    fixture.daemon.onRequest(u"task.countByType"_s, [&](const QJsonObject &) { countedAfter = sinceGroups.elapsed(); });
     ModalDriver driver;
     if (asked)
         driver.expectBox(QMessageBox::Question, u"No Tasks Found"_s,
@@ -177,6 +196,8 @@ void TestConnectionFlow::anEmptyListAsksOnceWhetherToCreateATask()
     fixture.open();
     QTRY_VERIFY(!fixture.daemon.requests(u"task.countByType"_s).isEmpty());
     QTRY_VERIFY2(driver.finished(), driver.problems());
+    // A timer of 300 ms may fire a twentieth early.
+    QVERIFY2(countedAfter >= 280, qPrintable(QString::number(countedAfter)));
 
     // A reconnection does not ask again.
     fixture.daemon.dropConnections();
