@@ -155,7 +155,7 @@ void TestStatusUpdate::keepsSelectionAndRows()
     QCOMPARE(fixture.table->item(1, 2), item);
     QCOMPARE(item->text(), u"Disabled"_s);
     QCOMPARE(selection.size(), 0);
-    QCOMPARE(fixture.table->selectedItems().size(), 5);
+    QCOMPARE(fixture.table->selectedItems().size(), fixture.table->columnCount());
 }
 
 void TestStatusUpdate::anEmptyTableAsksNothing()

@@ -229,7 +229,7 @@ void TestTaskTable::aSelectionSurvivesByRowNumber()
     fixture.setTasks(numberedTasks(8));
     click(fixture.window.get(), "refreshButton");
     auto *table = fixture.widget<QTableWidget>("taskTable");
-    table->setRangeSelected({5, 0, 6, 4}, true);
+    table->setRangeSelected({5, 0, 6, table->columnCount() - 1}, true);
     QList<QJsonObject> fewer = numberedTasks(6);
     fewer.move(0, 5);
     fixture.setTasks(fewer);
@@ -252,7 +252,7 @@ void TestTaskTable::aSelectionGovernsTheButtons()
     QCOMPARE(enabled(), QList<bool>({false, false, false, true}));
     table->selectAll();
     QCOMPARE(enabled(), QList<bool>({true, true, true, true}));
-    QCOMPARE(table->selectedItems().size(), 10);
+    QCOMPARE(table->selectedItems().size(), 2 * table->columnCount());
     table->clearSelection();
     QCOMPARE(enabled(), QList<bool>({false, false, false, true}));
 }
