@@ -1,7 +1,10 @@
 #include "mcslasttaskdefaults.h"
 
+#include <QFile>
 #include <QJsonDocument>
 #include <QSettings>
+
+#include <new>
 
 using namespace Qt::StringLiterals;
 
@@ -26,6 +29,28 @@ void writeText(QSettings &settings, const QJsonObject &source, const QString &ke
         settings.setValue(key, source.value(key).toString());
 }
 
+// Settings that nobody here has written may hold a value that names a length that no memory has room for. Older
+// versions of Qt take it for empty; newer ones throw, and do not bear that while they write.
+
+QByteArray readText(const QSettings &settings, const QString &key)
+{
+    try {
+        return settings.value(key).toString().toUtf8();
+    } catch (const std::bad_alloc &) {
+        return {};
+    }
+}
+
+/// Settings that cannot be decoded count as none, so they give way to what is about to be written.
+void discardUndecodable(const QSettings &settings)
+{
+    try {
+        static_cast<void>(settings.allKeys()); // decodes everything
+    } catch (const std::bad_alloc &) {
+        QFile::remove(settings.fileName());
+    }
+}
+
 } // namespace
 
 MCsLastTaskDefaults::MCsLastTaskDefaults()
@@ -44,6 +69,7 @@ void MCsLastTaskDefaults::saveDefaults(const QString &taskType, const QJsonObjec
     if (taskType.isEmpty())
         return;
     const QJsonObject params = document.value("paramsJson"_L1).toObject();
+    discardUndecodable(QSettings(QSettings::NativeFormat, QSettings::UserScope, m_organization, m_application));
     QSettings settings(QSettings::NativeFormat, QSettings::UserScope, m_organization, m_application);
     settings.beginGroup(lastTaskDefaultsGroup(taskType));
     writeObject(settings, params, u"dynamicParams"_s);
@@ -64,8 +90,7 @@ QJsonObject MCsLastTaskDefaults::loadDefaults(const QString &taskType) const
         return {};
     QSettings settings(QSettings::NativeFormat, QSettings::UserScope, m_organization, m_application);
     settings.beginGroup(lastTaskDefaultsGroup(taskType));
-    const QByteArray stored = settings.value(u"dynamicParams"_s).toString().toUtf8();
-    const QJsonDocument parsed = QJsonDocument::fromJson(stored);
+    const QJsonDocument parsed = QJsonDocument::fromJson(readText(settings, u"dynamicParams"_s));
     if (!parsed.isObject())
         return {};
     return {{u"dynamicParams"_s, parsed.object()}};

@@ -145,6 +145,9 @@ void TestSettingsSurroundings::whatIsNoSettingsFileCountsAsNone_data()
                               "ELF\x02\x01\xFF\xFE[[]]==\\x\n;"_ba;
     QTest::newRow("cut off") << R"([LastTaskDefaults]
 task_type.screen_record\dynamicParams="{\"fps)"_ba;
+    QTest::newRow("a list longer than any memory") << R"([LastTaskDefaults]
+task_type.screen_record\dynamicParams=@Variant(\0\0\0\t\xff\xff\xff\xf0)
+)"_ba;
     QTest::newRow("of another form") << "<settings><fps>5</fps></settings>"_ba;
 }
 
